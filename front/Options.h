@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+// The classified arguments of one command. Filled by RequestManager::process_command only.
+struct Options {
+    std::vector<std::string> subsystems;
+    std::string storage;
+    std::string cmd;
+    std::string logdest;
+    int64_t number = 0;
+    std::string param1;
+    std::string param2;
+};
+
+// True when the word is empty or holds only the digits 0 to 9.
+bool is_number(const std::string& word);
+
+}  // namespace tarn

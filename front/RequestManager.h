@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "front/Options.h"
+#include "service/Request.h"
+
+namespace tarn {
+
+// Owns the command table and the recognised argument words, classifies the command line into
+// Options and runs the one request that the command's handler builds.
+class RequestManager {
+public:
+    using Handler = std::function<std::shared_ptr<Request>(std::shared_ptr<Options>)>;
+
+    RequestManager();
+    ~RequestManager();
+
+    // Returns 1 when the command line is refused here, 0 once a handler ran.
+    int process_command(int argc, char** argv);
+
+    // Writes the error usage text to stderr.
+    static void usage();
+
+    // Handlers. Each checks its own arguments and returns the request to run, or nothing.
+    std::shared_ptr<Request> proc_manual();
+    std::shared_ptr<Request> proc_clear(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_collect(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_flush();
+    std::shared_ptr<Request> proc_crash(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_query_state(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_log(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_comp(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_comp_state(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_cp_max_size(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_cp_max_size(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_log_file_size(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_file_size(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_stor();
+    std::shared_ptr<Request> proc_set_preferred_storage(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_log_parent_path(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_log_parent_path(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_overwrite(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_overwrite_state(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_file_nodel(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_file_nodel(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_cp_reset(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_cp_reset(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_cp_run_state(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_md(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_md();
+    std::shared_ptr<Request> proc_set_io_limit(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_io_limit(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_mipilog(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_mipilog(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_log_pscfg(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_set_vexil_state(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_all_vexil_state();
+    std::shared_ptr<Request> proc_set_vexil_to_pc(std::shared_ptr<Options> opts);
+    std::shared_ptr<Request> proc_get_vexil_to_pc_state();
+    std::shared_ptr<Request> proc_tarn_debug(std::shared_ptr<Options> opts);
+
+private:
+    std::map<std::string, Handler> commands;
+    std::vector<std::string> subsys_words;
+    std::vector<std::string> storage_words;
+    std::vector<std::string> arg_words;
+    std::vector<std::string> logdest_words;
+};
+
+// Ends the process with the given status after a handler has refused its arguments.
+[[noreturn]] void end_process(int status);
+
+}  // namespace tarn

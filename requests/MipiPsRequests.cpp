@@ -1,0 +1,18 @@
+// Not built yet: these commands build no request for now.
+#include "front/RequestManager.h"
+
+namespace tarn {
+
+std::shared_ptr<Request> RequestManager::proc_set_mipilog(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+std::shared_ptr<Request> RequestManager::proc_get_mipilog(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+std::shared_ptr<Request> RequestManager::proc_set_log_pscfg(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+}  // namespace tarn

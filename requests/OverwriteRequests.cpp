@@ -1,0 +1,22 @@
+// Not built yet: these commands build no request for now.
+#include "front/RequestManager.h"
+
+namespace tarn {
+
+std::shared_ptr<Request> RequestManager::proc_overwrite(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+std::shared_ptr<Request> RequestManager::proc_get_overwrite_state(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+std::shared_ptr<Request> RequestManager::proc_set_file_nodel(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+std::shared_ptr<Request> RequestManager::proc_get_file_nodel(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+}  // namespace tarn

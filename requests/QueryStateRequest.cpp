@@ -1,0 +1,10 @@
+// Not built yet: these commands build no request for now.
+#include "front/RequestManager.h"
+
+namespace tarn {
+
+std::shared_ptr<Request> RequestManager::proc_query_state(std::shared_ptr<Options>) {
+    return nullptr;
+}
+
+}  // namespace tarn
