@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Fails when a C or C++ source of the project differs from what clang-format makes of it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+mapfile -t files < <(git ls-files -co --exclude-standard -- '*.c' '*.cc' '*.cpp' '*.h' '*.hpp' |
+                     grep -v '^build/' || true)
+[ ${#files[@]} -gt 0 ] || { echo "check_format: no sources"; exit 1; }
+if clang-format --dry-run -Werror "${files[@]}"; then
+    echo "check_format: ${#files[@]} files formatted"
+else
+    echo "check_format: run clang-format -i on the files above" >&2
+    exit 1
+fi

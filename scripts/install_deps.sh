@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs what the host build and its tests need on a Debian machine, and nothing when all is
+# there already. Needs root (apt-get) only when something is missing.
+set -euo pipefail
+
+# Debian package -> a file that shows it is installed.
+declare -A packages=(
+    [g++]=/usr/bin/g++
+    [cmake]=/usr/bin/cmake
+    [ninja-build]=/usr/bin/ninja
+    [python3]=/usr/bin/python3
+    [libgtest-dev]=/usr/include/gtest/gtest.h
+    [libgmock-dev]=/usr/include/gmock/gmock.h
+    [nlohmann-json3-dev]=/usr/include/nlohmann/json.hpp
+    [clang-format]=/usr/bin/clang-format
+    [soong]=/usr/bin/bpfix
+    [util-linux]=/usr/bin/unshare
+    [sysvinit-utils]=/bin/pidof
+    [strace]=/usr/bin/strace
+)
+
+missing=()
+for pkg in "${!packages[@]}"; do
+    [ -e "${packages[$pkg]}" ] || missing+=("$pkg")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if [ "$(id -u)" -ne 0 ]; then
+    echo "install_deps: missing packages: ${missing[*]}" >&2
+    echo "install_deps: run as root, or: sudo apt-get install -y ${missing[*]}" >&2
+    exit 1
+fi
+echo "install_deps: installing ${missing[*]}" >&2
+export DEBIAN_FRONTEND=noninteractive
+apt-get update -qq
+apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# The test command: installs what is missing, builds the host configuration and runs every test
+# (unit, end to end, formatting, Blueprint files). Exits non-zero when anything fails.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+bash scripts/install_deps.sh
+
+cmake --preset default >/dev/null
+cmake --build --preset default -j"$(nproc)"
+
+status=0
+ctest --preset default -j"$(nproc)" || status=1
+bash scripts/check_format.sh || status=1
+bash scripts/check_blueprints.sh || status=1
+
+if [ $status -ne 0 ]; then
+    echo "test.sh: FAILED" >&2
+fi
+exit $status
