@@ -14,6 +14,14 @@ void print_unsupported(const char* word) {
     fprintf(stderr, "Unsupported SubsystemType:%s\n", word);
 }
 
+void print_read_failure(const char* word, int32_t result) {
+    if (result == kResultUnsupported) {
+        print_unsupported(word);
+    } else {
+        print_result(result);
+    }
+}
+
 bool is_present(int32_t presence_field, const char* word) {
     if (presence_field != 0) return true;
     TARN_LOG("%s: Unsupported SubsystemType:%s\n", "do_request", word);

@@ -18,6 +18,10 @@ void print_result(int32_t result);
 // "Unsupported SubsystemType:<word>\n" on stderr.
 void print_unsupported(const char* word);
 
+// After a refused read of a record: the unsupported line on stderr when the service answered -3,
+// otherwise print_result() of the answer (so a failed status with result 0 still prints "OK").
+void print_read_failure(const char* word, int32_t result);
+
 // True when the presence field says the co-processor is fitted. Otherwise logs that do_request
 // met an absent co-processor, prints the unsupported line and returns false.
 bool is_present(int32_t presence_field, const char* word);
