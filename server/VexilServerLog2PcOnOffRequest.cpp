@@ -1,0 +1,29 @@
+#include "server/VexilServerLog2PcOnOffRequest.h"
+
+#include <string_view>
+
+#include "server/VexilServerExchange.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kEnableLine = "ENABLE_LOG_TO_PC\n";
+constexpr std::string_view kDisableLine = "DISABLE_LOG_TO_PC\n";
+
+}  // namespace
+
+VexilServerLog2PcOnOffRequest::VexilServerLog2PcOnOffRequest(const std::string& cmd)
+    : VexilserverRequest(-1), cmd_(cmd) {}
+
+int VexilServerLog2PcOnOffRequest::do_request() {
+    const bool enable = cmd_ == "enable";
+    requested_state_ = enable ? 1 : 0;
+    const std::string_view line = enable ? kEnableLine : kDisableLine;
+    if (connect_and_send(*this, line.data(), line.size()) != 0) {
+        return -1;
+    }
+    return wait_simple_response(kSetResponseTimeoutMs);
+}
+
+}  // namespace tarn
