@@ -14,7 +14,7 @@ namespace tarn {
 // Owns the command table and the recognised argument words, classifies the command line into
 // Options and runs the one request that the command's handler builds.
 class RequestManager {
-public:
+  public:
     using Handler = std::function<std::shared_ptr<Request>(std::shared_ptr<Options>)>;
 
     RequestManager();
@@ -64,7 +64,11 @@ public:
     std::shared_ptr<Request> proc_get_vexil_to_pc_state();
     std::shared_ptr<Request> proc_tarn_debug(std::shared_ptr<Options> opts);
 
-private:
+  private:
+    // The command table binds this instance.
+    RequestManager(const RequestManager&) = delete;
+    RequestManager& operator=(const RequestManager&) = delete;
+
     std::map<std::string, Handler> commands;
     std::vector<std::string> subsys_words;
     std::vector<std::string> storage_words;

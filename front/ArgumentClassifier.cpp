@@ -1,0 +1,88 @@
+#include "front/ArgumentClassifier.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "front/RequestManager.h"
+
+namespace tarn {
+namespace {
+
+bool contains(const std::vector<std::string>& words, const char* word) {
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+bool is_one_of(const char* word, std::initializer_list<const char*> names) {
+    return std::any_of(names.begin(), names.end(),
+                       [word](const char* name) { return strcmp(word, name) == 0; });
+}
+
+void report_missing_argument_alone() {
+    fprintf(stderr, "Missing argument.\n");
+}
+
+// Every word must be a recognised word or a number; a log destination ends the check.
+int classify_words(int argc, char** argv, const ArgumentWords& words, Options& opts) {
+    for (int i = 2; i < argc; ++i) {
+        const char* word = argv[i];
+        if (contains(words.subsys, word)) {
+            opts.subsystems.emplace_back(word);
+        } else if (contains(words.storage, word)) {
+            opts.storage = word;
+        } else if (contains(words.arg, word)) {
+            opts.cmd = word;
+        } else if (contains(words.logdest, word)) {
+            opts.logdest = word;
+            break;  // whatever follows the destination is left to the handler, unchecked
+        } else if (is_number(word)) {
+            // Saturates like atol does here; an empty word gives 0.
+            opts.number = std::strtoll(word, nullptr, 10);
+        } else {
+            report_missing_argument();
+            return 1;
+        }
+    }
+    return 0;
+}
+
+}  // namespace
+
+void report_missing_argument() {
+    report_missing_argument_alone();
+    RequestManager::usage();
+}
+
+int classify_arguments(int argc, char** argv, const ArgumentWords& words, Options& opts) {
+    if (argc <= 2) return 0;  // a command word alone always reaches its handler
+    const char* command = argv[1];
+
+    // These commands take their arguments by position.
+    if (is_one_of(command, {"setlogpath", "getmipilog", "setminidump", "clear"})) {
+        opts.cmd = argv[2];
+        return 0;
+    }
+    if (strcmp(command, "setmipilog") == 0) {
+        if (argc != 5) {
+            report_missing_argument_alone();
+            return 1;
+        }
+        opts.cmd = argv[2];
+        opts.param1 = argv[3];
+        opts.param2 = argv[4];
+        return 0;
+    }
+    if (is_one_of(command, {"setvexil", "setcpreset"})) {
+        if (argc != 4 || !contains(words.subsys, argv[2])) {
+            report_missing_argument();
+            return 1;
+        }
+        opts.subsystems.emplace_back(argv[2]);
+        opts.cmd = argv[3];
+        return 0;
+    }
+    return classify_words(argc, argv, words, opts);
+}
+
+}  // namespace tarn

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "front/ArgumentWords.h"
+#include "front/Options.h"
+
+namespace tarn {
+
+// Reads the arguments that follow a known command word (argv[1]) into opts. Returns 0 when the
+// command's handler may run, or 1 after writing the complaint to stderr.
+int classify_arguments(int argc, char** argv, const ArgumentWords& words, Options& opts);
+
+// Writes "Missing argument." and the error usage text to stderr.
+void report_missing_argument();
+
+}  // namespace tarn
