@@ -1,0 +1,159 @@
+// The state file: defaults, overrides and the refusals that name the offending key.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "EmulatorConfig.h"
+
+namespace tarnmodem {
+namespace {
+
+TEST(EmulatorStateFile, EmptyObjectKeepsTheDefaults) {
+    EmulatorConfig config;
+    std::string error;
+    ASSERT_TRUE(parse_state("{}", config, error)) << error;
+    const DeviceState& d = config.device;
+    EXPECT_EQ(config.service, ServicePublication::kPresent);
+    EXPECT_EQ(d.cellular.mode, 1);
+    EXPECT_EQ(d.cellular.dest, 1);
+    EXPECT_EQ(d.cellular.comp, 0);
+    EXPECT_EQ(d.parentLogPath, "/data/wyrm/log");
+    EXPECT_EQ(d.autoReboot.at(0), 1);
+    EXPECT_EQ(d.runState.at(1), 1);
+    for (int type = 1; type <= 6; ++type) EXPECT_TRUE(has_subsystem(d, type)) << type;
+    EXPECT_FALSE(has_subsystem(d, 0));
+    EXPECT_FALSE(has_subsystem(d, 7));
+    EXPECT_EQ(d.storage.count(4), 0u) << "the sensor hub keeps no logs of its own";
+    EXPECT_EQ(d.storage.count(1), 1u);
+    EXPECT_TRUE(config.vexilserver.up);
+    EXPECT_TRUE(config.faults.empty());
+}
+
+TEST(EmulatorStateFile, OverridesOnlyTheFieldsGiven) {
+    EmulatorConfig config;
+    std::string error;
+    ASSERT_TRUE(parse_state(R"({
+        "service": "wrong-interface",
+        "CellularLogSettings": {"mode": 2, "logPath": "/x"},
+        "SubsystemStorageParam": {"1": {"logFileSize": 7}, "2": null},
+        "StorageMedia": 2, "ParentLogPath": "/mnt/logs",
+        "AutoReboot": {"1": 2}, "RunState": {"0": 0},
+        "vexilserver": {"up": false, "replies": {"GET_LOG_STATE\n": "OK ON\n",
+                        "A\n": null, "B\n": "close"}}
+    })",
+                            config, error))
+        << error;
+    const DeviceState& d = config.device;
+    EXPECT_EQ(config.service, ServicePublication::kWrongInterface);
+    EXPECT_EQ(d.cellular.mode, 2);
+    EXPECT_EQ(d.cellular.logPath, "/x");
+    EXPECT_EQ(d.cellular.dest, 1) << "fields not given keep their defaults";
+    EXPECT_EQ(d.storage.at(1).logFileSize, 7);
+    EXPECT_EQ(d.storage.at(1).internalMaxSize, default_device_state().storage.at(1).internalMaxSize);
+    EXPECT_EQ(d.storage.count(2), 0u);
+    EXPECT_EQ(d.storageMedia, svc::StorageMedia::EXTERNAL);
+    EXPECT_EQ(d.parentLogPath, "/mnt/logs");
+    EXPECT_EQ(d.autoReboot.at(1), 2);
+    EXPECT_EQ(d.autoReboot.at(0), 1);
+    EXPECT_EQ(d.runState.at(0), 0);
+    EXPECT_FALSE(config.vexilserver.up);
+    EXPECT_EQ(config.vexilserver.replies.at("GET_LOG_STATE\n").bytes, "OK ON\n");
+    EXPECT_EQ(config.vexilserver.replies.at("A\n").kind, ReplyOverride::Kind::kSilent);
+    EXPECT_EQ(config.vexilserver.replies.at("B\n").kind, ReplyOverride::Kind::kClose);
+}
+
+TEST(EmulatorStateFile, ReadsEveryKindOfFault) {
+    EmulatorConfig config;
+    std::string error;
+    ASSERT_TRUE(parse_state(R"({"faults": {
+        "flushLogs": {"status": "EX_TRANSACTION_FAILED"},
+        "clearLogs": {"status": -32, "result": 5},
+        "getCellularLogSettings": {"status": "ok", "result": -1},
+        "crashSubsystem": {"die": true}}})",
+                            config, error))
+        << error;
+    const FaultTable& f = config.faults;
+    EXPECT_EQ(f.at("flushLogs").status->kind, FaultStatus::Kind::kException);
+    EXPECT_EQ(f.at("flushLogs").status->code, EX_TRANSACTION_FAILED);
+    EXPECT_EQ(f.at("clearLogs").status->kind, FaultStatus::Kind::kStatusCode);
+    EXPECT_EQ(f.at("clearLogs").status->code, -32);
+    EXPECT_EQ(f.at("clearLogs").result, 5);
+    EXPECT_EQ(f.at("getCellularLogSettings").status->kind, FaultStatus::Kind::kOk);
+    EXPECT_EQ(f.at("getCellularLogSettings").result, -1);
+    EXPECT_TRUE(f.at("crashSubsystem").die);
+    EXPECT_FALSE(f.at("crashSubsystem").status.has_value());
+}
+
+TEST(EmulatorStateFile, StatusesBecomeTheBinderStatusesTheyName) {
+    EXPECT_TRUE(FaultStatus{}.make().isOk());
+    ndk::ScopedAStatus ex = FaultStatus{FaultStatus::Kind::kException, EX_ILLEGAL_STATE}.make();
+    EXPECT_FALSE(ex.isOk());
+    EXPECT_EQ(ex.getExceptionCode(), EX_ILLEGAL_STATE);
+    ndk::ScopedAStatus specific =
+        FaultStatus{FaultStatus::Kind::kException, EX_SERVICE_SPECIFIC}.make();
+    EXPECT_EQ(specific.getExceptionCode(), EX_SERVICE_SPECIFIC);
+    ndk::ScopedAStatus dead = FaultStatus{FaultStatus::Kind::kStatusCode, STATUS_DEAD_OBJECT}.make();
+    EXPECT_EQ(dead.getExceptionCode(), EX_TRANSACTION_FAILED);
+    EXPECT_EQ(dead.getStatus(), STATUS_DEAD_OBJECT);
+    EXPECT_TRUE(FaultStatus{FaultStatus::Kind::kStatusCode, 0}.make().isOk());
+}
+
+TEST(EmulatorStateFile, RefusalsNameTheKey) {
+    struct Case {
+        const char* text;
+        const char* message_part;
+    };
+    const Case cases[] = {
+        {R"({"bogus": 1})", "\"bogus\" is not a state key"},
+        {R"([1])", "must be a JSON object"},
+        {R"({"service": "maybe"})", "\"service\""},
+        {R"({"CellularLogSettings": {"mode": "on"}})",
+         "\"CellularLogSettings.mode\" must be an integer"},
+        {R"({"CellularLogSettings": {"modes": 1}})",
+         "\"CellularLogSettings.modes\" is not a field"},
+        {R"({"CellularLogSettings": {"logPath": 3}})",
+         "\"CellularLogSettings.logPath\" must be a string"},
+        {R"({"CellularLogSettings": {"mode": 2147483648}})", "out of the int32 range"},
+        {R"({"CellularLogSettings": {"mode": -2147483649}})", "out of the int32 range"},
+        {R"({"CellularLogSettings": {"mode": 1.5}})", "must be an integer"},
+        {R"({"SubsystemPresence": 1})", "\"SubsystemPresence\" must be an object"},
+        {R"({"SubsystemStorageParam": {"7": {}}})", "\"SubsystemStorageParam.7\""},
+        {R"({"SubsystemStorageParam": {"0": {}}})", "\"SubsystemStorageParam.0\""},
+        {R"({"SubsystemStorageParam": {"x": {}}})", "\"SubsystemStorageParam.x\""},
+        {R"({"SubsystemStorageParam": {"1": {"size": 1}}})", "\"SubsystemStorageParam.1.size\""},
+        {R"({"StorageMedia": "data"})", "\"StorageMedia\" must be an integer"},
+        {R"({"ParentLogPath": 1})", "\"ParentLogPath\" must be a string"},
+        {R"({"AutoReboot": {"2": 1}})", "\"AutoReboot.2\""},
+        {R"({"RunState": {"0": true}})", "\"RunState.0\" must be an integer"},
+        {R"({"faults": {"nope": {}}})", "\"faults.nope\" is not an operation"},
+        {R"({"faults": {"flushLogs": {"result": 0}}})", "\"faults.flushLogs.result\""},
+        {R"({"faults": {"getCurrentParentLogPath": {"result": 0}}})", "has no int"},
+        {R"({"faults": {"clearLogs": {"status": "EX_NOPE"}}})", "\"faults.clearLogs.status\""},
+        {R"({"faults": {"clearLogs": {"status": 1.5}}})", "\"faults.clearLogs.status\""},
+        {R"({"faults": {"clearLogs": {"die": 1}}})", "\"faults.clearLogs.die\""},
+        {R"({"faults": {"clearLogs": {"crash": true}}})", "\"faults.clearLogs.crash\""},
+        {R"({"vexilserver": {"up": "yes"}})", "\"vexilserver.up\""},
+        {R"({"vexilserver": {"down": true}})", "\"vexilserver.down\""},
+        {R"({"vexilserver": {"replies": {"X\n": 3}}})", "\"vexilserver.replies.X\n\""},
+        {R"({"mode": )", "not valid JSON"},
+        {"", "not valid JSON"},
+        {"{\"ParentLogPath\": \"\xff\"}", "not valid JSON"},
+    };
+    for (const Case& c : cases) {
+        EmulatorConfig config;
+        std::string error;
+        EXPECT_FALSE(parse_state(c.text, config, error)) << c.text;
+        EXPECT_NE(error.find(c.message_part), std::string::npos)
+            << c.text << "\n  gave: " << error << "\n  lacks: " << c.message_part;
+    }
+}
+
+TEST(EmulatorStateFile, MissingFileIsNamed) {
+    EmulatorConfig config;
+    std::string error;
+    EXPECT_FALSE(load_state_file("/nonexistent/state.json", config, error));
+    EXPECT_NE(error.find("/nonexistent/state.json"), std::string::npos) << error;
+}
+
+}  // namespace
+}  // namespace tarnmodem
