@@ -8,7 +8,7 @@
 namespace android {
 
 class String8 {
-public:
+  public:
     String8() = default;
     explicit String8(const char* o) : mString(o == nullptr ? "" : o) {}
     String8(const char* o, size_t numChars) : mString(o, numChars) {}
@@ -18,7 +18,7 @@ public:
     size_t size() const { return mString.size(); }
     size_t length() const { return mString.size(); }
 
-private:
+  private:
     std::string mString;
 };
 

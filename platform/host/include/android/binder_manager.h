@@ -1,0 +1,21 @@
+// Host stand-in for the Android 13 service manager API. On the host a service is reached at the
+// abstract local stream socket named after its instance.
+#pragma once
+
+#include <android/binder_ibinder.h>
+#include <android/binder_status.h>
+#include <sys/cdefs.h>
+
+__BEGIN_DECLS
+
+__attribute__((warn_unused_result)) binder_exception_t AServiceManager_addService(
+    AIBinder* binder, const char* instance) __INTRODUCED_IN(29);
+__attribute__((warn_unused_result)) AIBinder* AServiceManager_checkService(const char* instance)
+    __INTRODUCED_IN(29);
+__attribute__((warn_unused_result)) AIBinder* AServiceManager_getService(const char* instance)
+    __INTRODUCED_IN(29);
+__attribute__((warn_unused_result)) AIBinder* AServiceManager_waitForService(const char* instance)
+    __INTRODUCED_IN(31);
+bool AServiceManager_isDeclared(const char* instance) __INTRODUCED_IN(31);
+
+__END_DECLS

@@ -1,0 +1,15 @@
+// Host stand-in for the Android 13 binder thread pool API.
+#pragma once
+
+#include <android/binder_status.h>
+#include <stdbool.h>
+#include <stdint.h>
+#include <sys/cdefs.h>
+
+__BEGIN_DECLS
+
+void ABinderProcess_startThreadPool();
+bool ABinderProcess_setThreadPoolMaxThreadCount(uint32_t numThreads);
+void ABinderProcess_joinThreadPool();
+
+__END_DECLS
