@@ -995,6 +995,7 @@ def emit_interface_source(decl, root):
         "}",
         f"// Source for {name}",
         f'const char* {name}::descriptor = "{decl.qualified}";',
+        f"const int32_t {name}::version;",
         f"{name}::{name}() {{}}",
         f"{name}::~{name}() {{}}",
         "",
