@@ -1100,7 +1100,7 @@ def load(root, path):
     expected = os.path.join(*decl.package.split("."), decl.name + ".aidl")
     if rel != expected:
         raise AidlError(
-            path, decl.line, f"{decl.kind} {decl.qualified} must be declared in {expected} under {root}"
+            path, decl.line, f"{decl.kind} {decl.qualified} must be declared in {expected}"
         )
     if decl.kind == "interface" and not re.match(r"^I[A-Z]", decl.name):
         raise AidlError(path, decl.line, "interface names must start with I and a capital letter")

@@ -11,7 +11,8 @@ class String8 {
   public:
     String8() = default;
     explicit String8(const char* o) : mString(o == nullptr ? "" : o) {}
-    String8(const char* o, size_t numChars) : mString(o, numChars) {}
+    String8(const char* o, size_t numChars)
+        : mString(o == nullptr ? std::string() : std::string(o, numChars)) {}
 
     const char* string() const { return mString.c_str(); }
     const char* c_str() const { return mString.c_str(); }

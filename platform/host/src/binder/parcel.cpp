@@ -176,11 +176,17 @@ binder_status_t AParcel_writeString(AParcel* parcel, const char* string, int32_t
         return length == -1 ? AParcel_writeInt32(parcel, -1) : STATUS_BAD_VALUE;
     }
     if (length < 0) return STATUS_BAD_VALUE;
-    binder_status_t status = AParcel_writeInt32(parcel, length);
-    if (status != STATUS_OK) return status;
     size_t size = static_cast<size_t>(length);
-    uint8_t* where = reserve(parcel, size + 1);
-    if (where == nullptr) return STATUS_NO_MEMORY;
+    // Nothing is written unless the whole string fits.
+    size_t start = parcel->position;
+    size_t start_size = parcel->data.size();
+    uint8_t* where = nullptr;
+    if (AParcel_writeInt32(parcel, length) == STATUS_OK) where = reserve(parcel, size + 1);
+    if (where == nullptr) {
+        parcel->position = start;
+        parcel->data.resize(start_size);
+        return STATUS_NO_MEMORY;
+    }
     memcpy(where, string, size);
     where[size] = 0;
     return STATUS_OK;
