@@ -654,6 +654,7 @@ def emit_parcelable_source(decl, root):
         "",
         namespace_open(decl.package),
         f'const char* {decl.name}::descriptor = "{decl.qualified}";',
+        f"const ::ndk::parcelable_stability_t {decl.name}::_aidl_stability;",
         "",
         f"binder_status_t {decl.name}::readFromParcel(const AParcel* _aidl_parcel) {{",
         "  binder_status_t _aidl_ret_status = STATUS_OK;",
