@@ -8,6 +8,8 @@ from dataclasses import dataclass, field
 from pathlib import Path
 from typing import List, Optional
 
+import sandbox
+
 
 class CaseError(Exception):
     """A case file that cannot be read; the message names file and line."""
@@ -61,6 +63,7 @@ class Case:
     emulator_gone: bool = False
     emulator_exit: Optional[int] = None
     emulator_stderr: Optional[Matcher] = None
+    sandbox: Optional[object] = None  # sandbox.Sandbox when the case uses its directives
 
 
 SERVICE_NAME = "vendor.kest.hardware.vexil_svc.ISysLogControl/default"
@@ -345,6 +348,8 @@ def parse_file(path: Path, golden_dir: Path) -> List[Case]:
             case.emulator_exit = _int(value, where)
         elif key == "emulator-stderr":
             case.emulator_stderr = parse_matcher(value, golden_dir, seed, where)
+        elif key in sandbox.DIRECTIVES:
+            sandbox.parse_directive(case, key, value, golden_dir, seed, where)
         else:
             raise CaseError(f"{where}: unknown directive '{key}'")
     for c in cases:

@@ -20,6 +20,7 @@ import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
+import sandbox
 from caseformat import Case, CaseError, c_quote, parse_file
 
 HERE = Path(__file__).resolve().parent
@@ -50,11 +51,15 @@ def spec_of(case: Case, args) -> dict:
                  "expect": r.expect is not None} for r in case.raw],
         "argv": case.argv,
         "timeout": case.timeout,
+        "sandbox": sandbox.spec_of(case),
     }
 
 
 def run_case(case: Case, args, prefix: list) -> dict:
-    done = subprocess.run(prefix + [sys.executable, str(EXECUTOR)],
+    command = prefix + [sys.executable, str(EXECUTOR)]
+    if case.sandbox is not None:
+        command = sandbox.command(prefix, sys.executable)
+    done = subprocess.run(command,
                           input=json.dumps(spec_of(case, args)).encode(), capture_output=True,
                           timeout=case.timeout + 60)
     if done.returncode != 0:
@@ -185,6 +190,7 @@ def judge(case: Case, seen: dict) -> list:
             problems.append(f"tarnmodem exit {seen['emulator_exit']} on SIGTERM, expected 0")
     check_journal(case, seen["journal"], problems)
     check_log(case, seen["log"], problems)
+    problems += sandbox.judge(case, seen, compare_stream)
     return problems
 
 
