@@ -152,6 +152,12 @@ def execute(spec: dict) -> dict:
                         out.update(stdout=b64(e.stdout or b""), stderr=b64(e.stderr or b""),
                                    exit=None, timed_out=True)
                     out["seconds"] = time.monotonic() - start
+                if spec.get("emulator_gone"):
+                    # Its sockets close before the process is gone: give it a moment to end.
+                    try:
+                        proc.wait(STOP_SECONDS)
+                    except subprocess.TimeoutExpired:
+                        pass
                 out["alive_after_command"] = proc.poll() is None
         finally:
             for sock in held:

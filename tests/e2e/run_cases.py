@@ -51,12 +51,13 @@ def spec_of(case: Case, args) -> dict:
                  "expect": r.expect is not None} for r in case.raw],
         "argv": case.argv,
         "timeout": case.timeout,
+        "emulator_gone": case.emulator_gone,
         "sandbox": sandbox.spec_of(case),
     }
 
 
 def run_case(case: Case, args, prefix: list) -> dict:
-    command = prefix + [sys.executable, str(EXECUTOR)]
+    command = prefix + [sys.executable, "-S", str(EXECUTOR)]
     if case.sandbox is not None:
         command = sandbox.command(prefix, sys.executable)
     done = subprocess.run(command,

@@ -95,7 +95,7 @@ TEST(EmulatorStateFile, StatusesBecomeTheBinderStatusesTheyName) {
     ndk::ScopedAStatus dead = FaultStatus{FaultStatus::Kind::kStatusCode, STATUS_DEAD_OBJECT}.make();
     EXPECT_EQ(dead.getExceptionCode(), EX_TRANSACTION_FAILED);
     EXPECT_EQ(dead.getStatus(), STATUS_DEAD_OBJECT);
-    EXPECT_TRUE(FaultStatus{FaultStatus::Kind::kStatusCode, 0}.make().isOk());
+    EXPECT_TRUE((FaultStatus{FaultStatus::Kind::kStatusCode, 0}.make().isOk()));
 }
 
 TEST(EmulatorStateFile, RefusalsNameTheKey) {
