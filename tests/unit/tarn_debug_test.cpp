@@ -26,8 +26,9 @@ std::string read_file(const fs::path& path) {
     return text.str();
 }
 
+// No "#!" line: the shell runs a script without one itself, wherever it lives.
 void write_script(const fs::path& path, const std::string& body) {
-    std::ofstream(path) << "#!/bin/sh\n" << body;
+    std::ofstream(path) << body;
     fs::permissions(path, fs::perms::owner_all | fs::perms::group_read | fs::perms::others_read);
 }
 
@@ -51,8 +52,8 @@ mode_t current_umask() {
 class TarnDebugTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        char pattern[] = "/tmp/tarn_debug_test.XXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
+        std::string pattern = ::testing::TempDir() + "tarn_debug_test.XXXXXX";
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
         root = pattern;
         capture_dir = root / "tarndebug";
     }
