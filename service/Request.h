@@ -1,12 +1,11 @@
 #pragma once
 
-#include <android/binder_ibinder.h>
-
-#include <memory>
-
 #include <aidl/vendor/kest/hardware/vexil_svc/ISysLogControl.h>
 #include <aidl/vendor/kest/hardware/vexil_svc/LogDestination.h>
 #include <aidl/vendor/kest/hardware/vexil_svc/SubsystemType.h>
+#include <android/binder_ibinder.h>
+
+#include <memory>
 
 namespace tarn {
 
@@ -16,7 +15,7 @@ using ::aidl::vendor::kest::hardware::vexil_svc::SubsystemType;
 
 // Base of every request. Service-backed requests reach ISysLogControl through start().
 class Request {
-public:
+  public:
     Request() = default;
     virtual ~Request() = default;
     Request(const Request&) = delete;
@@ -32,11 +31,11 @@ public:
     // "off", "stor", "usb"; "wifi" for every other value.
     static const char* logdest_type_to_name(LogDestination value);
 
-protected:
+  protected:
     // Finds the service and watches it; an empty handle after reporting the failure.
     std::shared_ptr<ISysLogControl> start();
 
-private:
+  private:
     static void onBinderDied(void* cookie);
 
     AIBinder_DeathRecipient* death_recipient_ = nullptr;

@@ -11,9 +11,9 @@
 #define TARN_LOG(fmt, ...) __android_log_print(ANDROID_LOG_ERROR, TARN_LOG_TAG, fmt, __VA_ARGS__)
 
 // A failure line: fmt is given without its ending, which becomes " [errno(text)]\n".
-#define TARN_LOG_ERRNO(fmt, ...)                                                            \
-    do {                                                                                   \
-        int tarn_saved_errno_ = errno;                                                     \
+#define TARN_LOG_ERRNO(fmt, ...)                                                             \
+    do {                                                                                     \
+        int tarn_saved_errno_ = errno;                                                       \
         __android_log_print(ANDROID_LOG_ERROR, TARN_LOG_TAG, fmt " [%d(%s)]\n", __VA_ARGS__, \
-                            tarn_saved_errno_, strerror(tarn_saved_errno_));               \
+                            tarn_saved_errno_, strerror(tarn_saved_errno_));                 \
     } while (0)
