@@ -114,7 +114,7 @@ exit $status
 def command(prefix: list, python: str) -> list:
     """The executor's command line for a sandbox case."""
     return prefix + ["sh", "-c", _WITH_ROOT_MOUNT_POINT, "sandbox"] + NAMESPACES + [
-        python, str(EXECUTOR)]
+        python, "-S", str(EXECUTOR)]
 
 
 def fold_pid(output: bytes) -> int:

@@ -78,7 +78,7 @@ def prepare(box: dict, spec: dict) -> list:
     os.environ.update(VEXIL_SANDBOX_TOOL=spec["vexilctl"], VEXIL_SANDBOX_REPEAT=str(box["repeat"]),
                       VEXIL_SANDBOX_RUNS=RUNS)
     wrapper = BIN_DIR + "/vexilctl"
-    write_executable(wrapper, f'#!/bin/sh\nexec "{sys.executable}" '
+    write_executable(wrapper, f'#!/bin/sh\nexec "{sys.executable}" -S '
                               f'"{HERE}/sandbox_command.py" "$@"\n')
     spec["vexilctl"] = wrapper
 
