@@ -61,7 +61,9 @@ int VexilserverRequest::prepare_conn() {
 }
 
 int VexilserverRequest::send_req(const void* req, size_t len) {
-    ssize_t written = write(fd_, req, len);
+    // One write of the whole line. A server that has already hung up gives EPIPE, reported as a
+    // send error, instead of a SIGPIPE that would end the tool silently.
+    ssize_t written = send(fd_, req, len, MSG_NOSIGNAL);
     return written >= 0 && static_cast<size_t>(written) == len ? 0 : -1;
 }
 
