@@ -472,11 +472,12 @@ def read_stmt(ref, parcel, target):
         return [f"_aidl_ret_status = ::ndk::AParcel_readString({parcel}, {target});"]
     if kind == "parcelable":
         return [f"_aidl_ret_status = ::ndk::AParcel_readParcelable({parcel}, {target});"]
+    assigned = target[1:] if target.startswith("&") else f"*{target}"
     return [
         "{",
         "  int32_t _aidl_value = 0;",
         f"  _aidl_ret_status = AParcel_readInt32({parcel}, &_aidl_value);",
-        f"  if (_aidl_ret_status == STATUS_OK) *{target} = static_cast<{cpp_type(ref)}>(_aidl_value);",
+        f"  if (_aidl_ret_status == STATUS_OK) {assigned} = static_cast<{cpp_type(ref)}>(_aidl_value);",
         "}",
     ]
 
@@ -825,7 +826,7 @@ def emit_bn_header(decl, root):
     return "\n".join(out)
 
 
-def emit_stub_case(decl, m):
+def emit_stub_case(m):
     out = [f"    case (FIRST_CALL_TRANSACTION + {m.code} /*{m.name}*/): {{"]
     for p in m.params:
         init = field_initialiser(p.type) if type_kind(p.type) != "parcelable" else ""
@@ -961,7 +962,7 @@ def emit_interface_source(decl, root):
         "  switch (_aidl_code) {",
     ]
     for m in all_methods(decl):
-        out += emit_stub_case(decl, m)
+        out += emit_stub_case(m)
     out += [
         "  }",
         "  return _aidl_ret_status;",
@@ -1037,10 +1038,10 @@ def emit_interface_source(decl, root):
         f"std::shared_ptr<{name}> {name}::default_impl = nullptr;",
     ]
     for m in decl.methods:
-        unnamed = m.name  # parameters stay unnamed: the default implementation ignores them
+        # Parameters stay unnamed: the default implementation ignores them.
         args = ", ".join(a.rsplit(" ", 1)[0] for a in method_args(m))
         out += [
-            f"::ndk::ScopedAStatus {name}Default::{unnamed}({args}) {{",
+            f"::ndk::ScopedAStatus {name}Default::{m.name}({args}) {{",
             "  ::ndk::ScopedAStatus _aidl_status;",
             "  _aidl_status.set(AStatus_fromStatus(STATUS_UNKNOWN_TRANSACTION));",
             "  return _aidl_status;",

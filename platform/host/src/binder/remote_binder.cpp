@@ -2,6 +2,7 @@
 // stream socket a service listens on. Calls are synchronous request/reply frames (wire.h).
 #include <errno.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <utility>
@@ -11,6 +12,12 @@
 #include "wire.h"
 
 namespace host::binder {
+
+namespace {
+
+constexpr time_t kDescriptorQueryTimeoutSeconds = 10;
+
+}  // namespace
 
 RemoteBinder::RemoteBinder(int fd, std::string descriptor)
     : fd_(fd), descriptor_(std::move(descriptor)) {}
@@ -64,10 +71,15 @@ AIBinder* connect_remote(const char* instance) {
     int fd = connect_stream(addr, len);
     if (fd < 0) return nullptr;
 
+    // Something that listens at the name but never answers must not hold the caller forever.
+    timeval query_timeout{kDescriptorQueryTimeoutSeconds, 0};
+    setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &query_timeout, sizeof(query_timeout));
     Frame reply;
     std::string descriptor;
     bool answered = send_frame(fd, kInterfaceTransaction, 0, {}) &&
                     read_frame(fd, &reply) == FrameResult::kOk && reply.word1 == STATUS_OK;
+    timeval no_timeout{0, 0};
+    setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &no_timeout, sizeof(no_timeout));
     if (answered) {
         AParcel parcel;
         parcel.data = std::move(reply.payload);
