@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <vector>
 
 #include "AbstractSocket.h"
 
@@ -43,6 +42,7 @@ LogSink::~LogSink() {
 bool LogSink::start(const std::string& name) {
     socket_ = bind_abstract_socket(name, SOCK_DGRAM);
     if (socket_ < 0) return false;
+    buffer_.resize(kMaxDatagram);
     wake_ = eventfd(0, EFD_CLOEXEC);
     if (wake_ < 0) return false;
     thread_ = std::thread(&LogSink::receive_loop, this);
@@ -75,11 +75,10 @@ void LogSink::receive_loop() {
 }
 
 bool LogSink::drain() {
-    std::vector<unsigned char> buffer(kMaxDatagram);
     for (;;) {
-        ssize_t n = recv(socket_, buffer.data(), buffer.size(), MSG_DONTWAIT);
+        ssize_t n = recv(socket_, buffer_.data(), buffer_.size(), MSG_DONTWAIT);
         if (n < 0) return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
-        Json line = decode_log_datagram(buffer.data(), static_cast<size_t>(n));
+        Json line = decode_log_datagram(buffer_.data(), static_cast<size_t>(n));
         if (!line.is_null()) out_.write(line);
     }
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "JsonLines.h"
 
@@ -32,6 +33,7 @@ class LogSink {
     bool drain();
 
     JsonLineFile& out_;
+    std::vector<unsigned char> buffer_;
     int socket_ = -1;
     int wake_ = -1;
     std::thread thread_;

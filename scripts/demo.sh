@@ -9,7 +9,7 @@ root=$(pwd)
 if [ -z "${VEXIL_DEMO_INSIDE:-}" ]; then
     [ -f scripts/install_deps.sh ] && bash scripts/install_deps.sh
     cmake --preset default >/dev/null
-    cmake --build --preset default -j"$(nproc)"
+    cmake --build --preset default -j"$(nproc)" --target vexilctl tarnmodem
     # Run the session in a network namespace of its own when possible, so that the daemon's
     # abstract socket names cannot meet those of anything else on this machine.
     for ns in "unshare -n" "unshare -rn"; do
@@ -43,7 +43,7 @@ if ! timeout 10 head -n1 "$work/ready" | grep -qx ready; then
     echo "demo: tarnmodem did not start" >&2
     exit 1
 fi
-echo "tarnmodem is running (pid $(pidof tarnmodem))"
+echo "tarnmodem is running (pid $daemon)"
 
 run() {
     echo
