@@ -3,7 +3,8 @@
 # Generates NDK-backend C++ from every .aidl file under <dir> with tools/aidl_ndk_gen.py at build
 # time and builds it into the static library <target>. The generated headers are exported as
 # <aidl/<package path>/<Type>.h>. The .aidl files are the one source of truth: adding or removing
-# one re-runs the configure step, editing one re-runs the generator.
+# one re-runs the configure step, editing one re-runs the generator. Frozen API dumps under
+# <dir>/aidl_api/ are not compiled; the newest one's .hash sets the interface's version and hash.
 
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
@@ -17,7 +18,11 @@ function(add_aidl_ndk_library target)
     endif()
     get_filename_component(root ${ARG_IMPORT_ROOT} ABSOLUTE)
     file(GLOB_RECURSE aidl_files CONFIGURE_DEPENDS ${root}/*.aidl)
+    # aidl_api/ holds the frozen API dumps, copies of the sources: not built.
+    list(FILTER aidl_files EXCLUDE REGEX "/aidl_api/")
     list(SORT aidl_files)
+    # The newest frozen version's hash becomes the interface's version and hash.
+    file(GLOB_RECURSE api_hashes CONFIGURE_DEPENDS ${root}/aidl_api/*/.hash)
     if(NOT aidl_files)
         message(FATAL_ERROR "add_aidl_ndk_library(${target}): no .aidl files under ${root}")
     endif()
@@ -42,7 +47,7 @@ function(add_aidl_ndk_library target)
     add_custom_command(
         OUTPUT ${outputs}
         COMMAND ${Python3_EXECUTABLE} ${AIDL_NDK_GENERATOR} -I ${root} -o ${out_dir} ${aidl_files}
-        DEPENDS ${aidl_files} ${AIDL_NDK_GENERATOR}
+        DEPENDS ${aidl_files} ${api_hashes} ${AIDL_NDK_GENERATOR}
         COMMENT "Generating NDK C++ for ${target} from ${root}"
         VERBATIM)
 
