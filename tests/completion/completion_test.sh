@@ -1,0 +1,157 @@
+#!/usr/bin/env bash
+# Drives the bash completion of vexilctl as bash does (COMP_WORDS, COMP_CWORD, the function that
+# `complete -p vexilctl` names) and checks:
+#  - a table of command lines and what they complete to;
+#  - the command words offered are exactly those of the front end's command table, and the words
+#    offered to classified commands are exactly the front end's four word lists;
+#  - every command line made of offered words passes the real binary's front end (exit status 0,
+#    not 1), when the binary is given.
+# Usage: completion_test.sh [VEXILCTL]
+set -uo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+root=$(cd "$here/../.." && pwd)
+vexilctl=${1:-}
+
+# shellcheck source=/dev/null
+source "$root/completion/vexilctl.bash"
+
+failures=0
+checks=0
+fail() {
+    echo "FAIL: $*" >&2
+    failures=$((failures + 1))
+}
+
+# Completes LINE (the cursor at its end) and prints the candidates sorted, on one line.
+complete_line() {
+    local line=$1
+    read -r -a COMP_WORDS <<<"$line"
+    [[ $line == *' ' ]] && COMP_WORDS+=('')
+    COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
+    COMP_LINE=$line
+    COMP_POINT=${#line}
+    COMPREPLY=()
+    local function_name
+    function_name=$(complete -p vexilctl | sed -n 's/.*-F \([^ ]*\) .*/\1/p')
+    "$function_name" vexilctl "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+    printf '%s\n' "${COMPREPLY[@]}" | sort | tr '\n' ' ' | sed 's/ $//'
+}
+
+expect() {
+    local line=$1 expected=$2 actual
+    checks=$((checks + 1))
+    actual=$(complete_line "$line")
+    [[ $actual == "$expected" ]] || fail "'$line' completes to '$actual', expected '$expected'"
+}
+
+# --- A table of lines and their completions -------------------------------------------------
+expect 'vexilctl getc' 'getcomp getcpcapacity getcpreset getcprunstate'
+expect 'vexilctl setv' 'setvexil setvexiltopc'
+expect 'vexilctl d' 'dbg'
+expect 'vexilctl zz' ''
+expect 'vexilctl state ' 'agdsp gnss modem pm pmsh sensor wcn'
+expect 'vexilctl state p' 'pm pmsh'
+expect 'vexilctl state modem ' ''
+expect 'vexilctl setlog wcn ' 'off stor usb wifi'
+expect 'vexilctl setlog wcn s' 'stor'
+expect 'vexilctl collect ' 'agdsp all gnss modem pm pmsh sensor wcn'
+expect 'vexilctl collect modem wcn a' 'agdsp all'
+expect 'vexilctl crash ' 'modem wcn'
+expect 'vexilctl setcomp modem ' 'lz4 none'
+expect 'vexilctl getcomp ' 'modem wcn'
+expect 'vexilctl getcpcapacity gnss ' 'external internal'
+expect 'vexilctl setcpcapacity modem internal ' ''
+expect 'vexilctl setstor ' 'data external storage'
+expect 'vexilctl setoverwrite agdsp ' 'disable enable'
+expect 'vexilctl setfilenodel ' 'modem'
+expect 'vexilctl setfilenodel modem e' 'enable'
+expect 'vexilctl setcpreset wcn ' 'off on rstdmp'
+expect 'vexilctl getcprunstate ' 'modem wcn'
+expect 'vexilctl setminidump ' 'off on'
+expect 'vexilctl setiolimit ' 'modem'
+expect 'vexilctl setiolimit modem ' \
+    'avgratio bufcommitthreshold bufnum bufsize logcommitthreshold lograte'
+expect 'vexilctl setiolimit modem buf' 'bufcommitthreshold bufnum bufsize'
+expect 'vexilctl setiolimit modem lograte ' ''
+expect 'vexilctl setlogpscfg ' 'debug user'
+expect 'vexilctl setvexil ' 'agdsp all gnss modem pmsh wcn'
+expect 'vexilctl setvexil all ' 'off on'
+expect 'vexilctl setvexiltopc ' 'disable enable'
+expect 'vexilctl clear ' 'skipboot'
+expect 'vexilctl dbg ' 'debuggerd fdinfo strace'
+expect 'vexilctl dbg strace ' ''
+expect 'vexilctl flush ' ''
+expect 'vexilctl getstor ' ''
+expect 'vexilctl setmipilog ' ''
+
+# setlogpath offers directories (and only directories).
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+mkdir -p "$scratch/logs_a" "$scratch/logs_b"
+touch "$scratch/logs_file"
+expect "vexilctl setlogpath $scratch/lo" "$scratch/logs_a $scratch/logs_b"
+
+# --- Agreement with the front end -----------------------------------------------------------
+# Command words of the command table, and the four word lists, as the front end's sources hold
+# them.
+table_commands=$(grep -o '{"[a-z]*", bind_handler' "$root/front/RequestManager.cpp" |
+    sed 's/{"\([a-z]*\)".*/\1/' | sort | tr '\n' ' ' | sed 's/ $//')
+front_words=$(sed -n '/kSubsysWords\[\]/,/kLogdestWords.*;/p' "$root/front/ArgumentWords.h" |
+    grep -o '"[a-z0-9]*"' | tr -d '"' | sort -u | tr '\n' ' ' | sed 's/ $//')
+
+checks=$((checks + 1))
+offered_commands=$(complete_line 'vexilctl ')
+[[ $(wc -w <<<"$offered_commands") -eq 36 ]] || fail "$(wc -w <<<"$offered_commands") commands offered, not 36"
+[[ $offered_commands == "$table_commands" ]] ||
+    fail "commands offered: '$offered_commands'; command table: '$table_commands'"
+
+# Commands whose arguments the front end takes by position, not from its word lists.
+positional=' setlogpath getmipilog setminidump clear setmipilog setvexil setcpreset '
+offered_words=()
+for command in $offered_commands; do
+    [[ $positional == *" $command "* ]] && continue
+    for position in 1 2 3; do
+        # shellcheck disable=SC2207
+        offered_words+=($(_vexilctl_arg_words "$command" "$position"))
+    done
+done
+checks=$((checks + 1))
+offered_words=$(printf '%s\n' "${offered_words[@]}" | sort -u | tr '\n' ' ' | sed 's/ $//')
+[[ $offered_words == "$front_words" ]] ||
+    fail "words offered to classified commands: '$offered_words'; front end lists: '$front_words'"
+
+# --- The real front end accepts every completed line ----------------------------------------
+# Each command with, at each position, each offered word (the other positions taking the first
+# offered word, or 5 where a number goes). dbg is left out: it writes under /data.
+if [[ -n $vexilctl ]]; then
+    for command in $offered_commands; do
+        [[ $command == dbg || $command == setlogpath ]] && continue
+        first=()
+        for position in 1 2 3; do
+            words=$(_vexilctl_arg_words "$command" "$position")
+            first+=("${words%% *}")
+        done
+        for position in 1 2 3; do
+            for word in $(_vexilctl_arg_words "$command" "$position"); do
+                args=()
+                for p in 1 2 3; do
+                    if ((p == position)); then
+                        args+=("$word")
+                    elif [[ -n ${first[p - 1]} ]]; then
+                        args+=("${first[p - 1]}")
+                    fi
+                done
+                [[ $command == setcpcapacity || $command == setiolimit ]] && args+=(5)
+                [[ $command == setmipilog ]] && args=(a b c)
+                checks=$((checks + 1))
+                timeout 20 "$vexilctl" "$command" "${args[@]}" >/dev/null 2>&1
+                status=$?
+                [[ $status -eq 0 ]] ||
+                    fail "vexilctl $command ${args[*]} exits $status (front end refused it)"
+            done
+        done
+    done
+fi
+
+echo "completion: $((checks - failures)) passed, $failures failed"
+[[ $failures -eq 0 ]]
