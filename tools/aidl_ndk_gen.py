@@ -7,6 +7,8 @@ Usage:
 Every FILE must lie under IMPORT_ROOT at the path of its package and hold one type named like
 the file. Headers go to OUT_DIR/include/aidl/<package path>/, sources to OUT_DIR/<package path>/.
 With --list-outputs the output paths are printed (one per line) and nothing is written.
+The interface's version and hash are those of the newest frozen API dump under
+IMPORT_ROOT/aidl_api/<package>/<N>/ (its .hash file); without one, version 1 and "notfrozen".
 
 Understood: package, imports, comments, @VintfStability, @Backing(type="int"), @utf8InCpp;
 enums with integer values; parcelables with int, long, boolean, String, enum and parcelable
@@ -32,7 +34,7 @@ ANNOTATIONS = {"VintfStability", "Backing", "utf8InCpp"}
 META_VERSION_CODE = 16777214
 META_HASH_CODE = 16777213
 UNFROZEN_HASH = "notfrozen"
-INTERFACE_VERSION = 1
+API_DUMP_DIR = "aidl_api"
 
 
 class AidlError(Exception):
@@ -132,6 +134,8 @@ class Decl:
         self.enumerators = []  # (name, value)
         self.methods = []
         self.imports = {}  # simple name -> (qualified name, line)
+        self.version = 1  # interface version and hash, see frozen_version()
+        self.hash = UNFROZEN_HASH
 
     @property
     def qualified(self):
@@ -728,8 +732,8 @@ def emit_interface_header(decl, root):
         f"  {name}();",
         f"  virtual ~{name}();",
         "",
-        f"  static const int32_t version = {INTERFACE_VERSION};",
-        f'  static inline const std::string hash = "{UNFROZEN_HASH}";',
+        f"  static const int32_t version = {decl.version};",
+        f'  static inline const std::string hash = "{decl.hash}";',
     ]
     for m in all_methods(decl):
         out.append(
@@ -1109,8 +1113,36 @@ def load(root, path):
     return decl
 
 
+def frozen_version(root, package):
+    """(version, hash) of the newest frozen API dump of a package, or (1, "notfrozen").
+
+    The dumps live in <root>/aidl_api/<package>/<N>/ with the hash as the last line of .hash;
+    the sources are taken to declare that version unchanged.
+    """
+    api_dir = os.path.join(root, API_DUMP_DIR, package)
+    try:
+        versions = [int(d) for d in os.listdir(api_dir) if d.isdigit()]
+    except OSError:
+        versions = []
+    if not versions:
+        return 1, UNFROZEN_HASH
+    newest = max(versions)
+    hash_path = os.path.join(api_dir, str(newest), ".hash")
+    try:
+        with open(hash_path, encoding="utf-8") as f:
+            lines = [line.strip() for line in f if line.strip()]
+    except OSError as e:
+        raise AidlError(hash_path, 1, f"cannot read the frozen version's hash: {e}")
+    if not lines or not re.fullmatch(r"[0-9a-f]{40}", lines[-1]):
+        raise AidlError(hash_path, max(len(lines), 1), "expected a 40-digit hex hash")
+    return newest, lines[-1]
+
+
 def parse_all(root, paths):
     decls = [load(root, p) for p in paths]
+    for d in decls:
+        if d.kind == "interface":
+            d.version, d.hash = frozen_version(root, d.package)
     seen = {}
     for d in decls:
         if d.qualified in seen:

@@ -109,8 +109,20 @@ TEST(AidlTypes, OperationsKeepTheirPlacesAndCodes) {
         EXPECT_EQ(op.generated_code, FIRST_CALL_TRANSACTION + op.position - 1);
     }
     EXPECT_STREQ(ISysLogControl::descriptor, "vendor.kest.hardware.vexil_svc.ISysLogControl");
+}
+
+// Version 1 is frozen when its API dump is there: the hash is the dump's.
+TEST(AidlTypes, VersionAndHashFollowTheFrozenApi) {
+    EXPECT_EQ(+ISysLogControl::version, 1);
     EXPECT_EQ(ISysLogControl::TRANSACTION_getInterfaceVersion, FIRST_CALL_TRANSACTION + 16777214);
     EXPECT_EQ(ISysLogControl::TRANSACTION_getInterfaceHash, FIRST_CALL_TRANSACTION + 16777213);
+    std::ifstream hash_file(std::string(AIDL_DIR) +
+                            "/aidl_api/vendor.kest.hardware.vexil_svc/1/.hash");
+    std::string line, last;
+    while (std::getline(hash_file, line)) {
+        if (!line.empty()) last = line;
+    }
+    EXPECT_EQ(ISysLogControl::hash, hash_file.is_open() ? last : "notfrozen");
 }
 
 // (name, default value as toString shows it) for every field, in order.
