@@ -211,3 +211,51 @@ TEST(AidlGenerator, WritesExactlyTheFilesItLists) {
 }
 
 }  // namespace
+
+namespace {
+
+std::string read_file(const fs::path& path) {
+    std::ifstream in(path);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+TEST(AidlGenerator, TakesVersionAndHashFromTheNewestFrozenDump) {
+    const char interface[] = "package p.q;\ninterface IThing {\n    void f();\n}\n";
+    const std::string header = "out/include/aidl/p/q/IThing.h";
+    {
+        ScratchPackage package;
+        package.add("p/q/IThing.aidl", interface);
+        ASSERT_EQ(package.generate().status, 0);
+        std::string text = read_file(package.root() / header);
+        EXPECT_NE(text.find("static const int32_t version = 1;"), std::string::npos);
+        EXPECT_NE(text.find("hash = \"notfrozen\";"), std::string::npos);
+    }
+    {
+        ScratchPackage package;
+        package.add("p/q/IThing.aidl", interface);
+        std::string newest(40, 'b');
+        fs::create_directories(package.root() / "aidl_api/p.q/1");
+        fs::create_directories(package.root() / "aidl_api/p.q/2");
+        std::ofstream(package.root() / "aidl_api/p.q/1/.hash") << std::string(40, 'a') << "\n";
+        std::ofstream(package.root() / "aidl_api/p.q/2/.hash") << std::string(40, 'c') << "\n"
+                                                               << newest << "\n";
+        ASSERT_EQ(package.generate().status, 0);
+        std::string text = read_file(package.root() / header);
+        EXPECT_NE(text.find("static const int32_t version = 2;"), std::string::npos);
+        EXPECT_NE(text.find("hash = \"" + newest + "\";"), std::string::npos);
+    }
+    {
+        ScratchPackage package;
+        package.add("p/q/IThing.aidl", interface);
+        fs::create_directories(package.root() / "aidl_api/p.q/1");
+        std::ofstream(package.root() / "aidl_api/p.q/1/.hash") << "not a hash\n";
+        GeneratorRun run = package.generate();
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.output, (package.root() / "aidl_api/p.q/1/.hash").string() +
+                                  ":1: error: expected a 40-digit hex hash\n");
+    }
+}
+
+}  // namespace
