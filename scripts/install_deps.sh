@@ -17,6 +17,10 @@ declare -A packages=(
     [util-linux]=/usr/bin/unshare
     [sysvinit-utils]=/bin/pidof
     [strace]=/usr/bin/strace
+    [m4]=/usr/bin/m4
+    [checkpolicy]=/usr/bin/checkpolicy
+    [g++-aarch64-linux-gnu]=/usr/bin/aarch64-linux-gnu-g++
+    [qemu-user]=/usr/bin/qemu-aarch64
 )
 
 missing=()
