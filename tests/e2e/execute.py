@@ -142,10 +142,11 @@ def execute(spec: dict) -> dict:
                     out["ran"] = True
                     start = time.monotonic()
                     try:
-                        done = subprocess.run([spec["vexilctl"]] + spec["argv"],
+                        wrap = spec.get("wrap", [])
+                        done = subprocess.run(wrap + [spec["vexilctl"]] + spec["argv"],
                                               stdin=subprocess.DEVNULL, capture_output=True,
                                               timeout=spec["timeout"],
-                                              executable=spec["vexilctl"])
+                                              executable=wrap[0] if wrap else spec["vexilctl"])
                         out.update(stdout=b64(done.stdout), stderr=b64(done.stderr),
                                    exit=done.returncode, timed_out=False)
                     except subprocess.TimeoutExpired as e:

@@ -3,7 +3,8 @@
 
 Each case runs in its own network namespace, so the abstract socket names of parallel cases never
 meet. Usage:
-    run_cases.py --vexilctl BIN --tarnmodem BIN [--golden DIR] [--jobs N] [--only NAME] FILE...
+    run_cases.py --vexilctl BIN --tarnmodem BIN [--golden DIR] [--jobs N] [--only NAME]
+                 [--wrap CMD [--slowdown F]] FILE...
 Exit status: 0 when every case passed (skipped ones aside), 1 when one failed, 2 on a bad file.
 """
 
@@ -13,6 +14,7 @@ import difflib
 import json
 import os
 import re
+import shlex
 import subprocess
 import sys
 import threading
@@ -44,13 +46,14 @@ def spec_of(case: Case, args) -> dict:
     return {
         "tarnmodem": args.tarnmodem,
         "vexilctl": args.vexilctl,
+        "wrap": shlex.split(args.wrap or ""),
         "state": case.state,
         "emulator_args": case.emulator_args,
         "raw": [{"target": r.target, "hold": r.hold,
                  "payload": None if r.payload is None else base64.b64encode(r.payload).decode(),
                  "expect": r.expect is not None} for r in case.raw],
         "argv": case.argv,
-        "timeout": case.timeout,
+        "timeout": case.timeout * args.slowdown,
         "emulator_gone": case.emulator_gone,
         "sandbox": sandbox.spec_of(case),
     }
@@ -62,7 +65,7 @@ def run_case(case: Case, args, prefix: list) -> dict:
         command = sandbox.command(prefix, sys.executable)
     done = subprocess.run(command,
                           input=json.dumps(spec_of(case, args)).encode(), capture_output=True,
-                          timeout=case.timeout + 60)
+                          timeout=case.timeout * args.slowdown + 60)
     if done.returncode != 0:
         raise RuntimeError("executor failed: " + done.stderr.decode("utf-8", "replace"))
     return json.loads(done.stdout)
@@ -202,6 +205,9 @@ def main() -> int:
     parser.add_argument("--golden", default=str(HERE.parent / "golden"))
     parser.add_argument("--jobs", type=int, default=os.cpu_count() or 2)
     parser.add_argument("--only", help="run only the case of this name")
+    parser.add_argument("--wrap", help="a command line that vexilctl runs under (e.g. valgrind)")
+    parser.add_argument("--slowdown", type=float, default=1.0,
+                        help="factor for every case's time limit (for a slow --wrap)")
     parser.add_argument("files", nargs="+")
     args = parser.parse_args()
 
