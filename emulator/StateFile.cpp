@@ -67,13 +67,13 @@ FaultStatus read_fault_status(const Json& value, const std::string& path) {
 
 void read_faults(const Json& value, FaultTable& faults) {
     if (!value.is_object()) throw StateError("faults", "must be an object");
-    for (const auto& [op_name, spec] : value.items()) {
+    for (const auto& [op_name, fields] : value.items()) {
         std::string path = "faults." + op_name;
         auto op = service_operations().find(op_name);
         if (op == service_operations().end()) throw StateError(path, "is not an operation");
-        if (!spec.is_object()) throw StateError(path, "must be an object");
+        if (!fields.is_object()) throw StateError(path, "must be an object");
         Fault fault;
-        for (const auto& [key, item] : spec.items()) {
+        for (const auto& [key, item] : fields.items()) {
             std::string item_path = path + "." + key;
             if (key == "status") {
                 fault.status = read_fault_status(item, item_path);
