@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Benchmark of vexilctl against the physical limit of its job, and its footprint.
+#
+#   bash bench/run.sh [--rounds N] [--runs N] [--commands N]
+#
+# `--no-build` (first) uses build/release as it is; the other options go to bench/measure.py
+# (`--footprint-only`, `--emulator PATH`, see its --help).
+#
+# Builds the release configuration (preset `release`), starts the host emulator tarnmodem in a
+# network namespace of its own, and prints one table: ratios of median whole-process wall times
+# (hyperfine, interleaved in rounds; the ratio is the median of the rounds' ratios), the stripped
+# size of vexilctl, its peak resident memory for `state modem`, and the emulator's resident memory
+# before and after many commands. Exits 1 when a line misses its budget.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+root=$(pwd)
+
+if [ "${1:-}" = "--no-build" ]; then
+    shift
+elif [ -z "${VEXIL_BENCH_INSIDE:-}" ]; then
+    bash scripts/install_deps.sh
+    cmake --preset release >/dev/null
+    cmake --build --preset release -j"$(nproc)" --target vexilctl tarnmodem vexil_bench_client
+fi
+
+if [ -z "${VEXIL_BENCH_INSIDE:-}" ]; then
+    for ns in "unshare -n" "unshare -rn"; do
+        if [ "$ns" = "unshare -n" ] && [ "$(id -u)" -ne 0 ]; then continue; fi
+        if $ns true 2>/dev/null; then
+            VEXIL_BENCH_INSIDE=1 exec $ns bash "$0" "$@"
+        fi
+    done
+    echo "bench: no network namespace available; running in the current one" >&2
+fi
+
+exec python3 -S "$root/bench/measure.py" --build "$root/build/release" "$@"
