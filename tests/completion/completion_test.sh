@@ -123,6 +123,16 @@ offered_words=$(printf '%s\n' "${offered_words[@]}" | sort -u | tr '\n' ' ' | se
 # --- The real front end accepts every completed line ----------------------------------------
 # Each command with, at each position, each offered word (the other positions taking the first
 # offered word, or 5 where a number goes). dbg is left out: it writes under /data.
+# The runs get a network namespace of their own when one can be had, so that no daemon, service
+# or log sink of the machine (all on abstract sockets) sees them.
+isolate=()
+for prefix in 'unshare -n' 'unshare -rn'; do
+    # shellcheck disable=SC2086
+    if $prefix true 2>/dev/null; then
+        read -r -a isolate <<<"$prefix"
+        break
+    fi
+done
 if [[ -n $vexilctl ]]; then
     for command in $offered_commands; do
         [[ $command == dbg || $command == setlogpath ]] && continue
@@ -144,7 +154,7 @@ if [[ -n $vexilctl ]]; then
                 [[ $command == setcpcapacity || $command == setiolimit ]] && args+=(5)
                 [[ $command == setmipilog ]] && args=(a b c)
                 checks=$((checks + 1))
-                timeout 20 "$vexilctl" "$command" "${args[@]}" >/dev/null 2>&1
+                timeout 20 "${isolate[@]}" "$vexilctl" "$command" "${args[@]}" >/dev/null 2>&1
                 status=$?
                 [[ $status -eq 0 ]] ||
                     fail "vexilctl $command ${args[*]} exits $status (front end refused it)"
