@@ -14,6 +14,7 @@ ctest --preset default -j"$(nproc)" || status=1
 bash scripts/check_format.sh || status=1
 bash scripts/check_blueprints.sh || status=1
 bash scripts/check_footprint.sh || status=1
+bash scripts/check_arm64.sh || status=1
 
 if [ $status -ne 0 ]; then
     echo "test.sh: FAILED" >&2
