@@ -71,6 +71,17 @@ RequestManager::RequestManager()
 RequestManager::~RequestManager() = default;
 
 int RequestManager::process_command(int argc, char** argv) {
+    std::shared_ptr<Request> request;
+    if (prepare_request(argc, argv, &request) != 0) return 1;
+    if (request) {
+        request->do_request();  // the outcome is already reported; the exit status stays 0
+    } else {
+        TARN_LOG_ERRNO("%s: request is null!", "process_command");
+    }
+    return 0;
+}
+
+int RequestManager::prepare_request(int argc, char** argv, std::shared_ptr<Request>* request) {
     if (argc < 2) {
         report_missing_argument();
         return 1;
@@ -85,12 +96,7 @@ int RequestManager::process_command(int argc, char** argv) {
     const ArgumentWords words{subsys_words, storage_words, arg_words, logdest_words};
     if (classify_arguments(argc, argv, words, *opts) != 0) return 1;
 
-    std::shared_ptr<Request> request = command->second(opts);
-    if (request) {
-        request->do_request();  // the outcome is already reported; the exit status stays 0
-    } else {
-        TARN_LOG_ERRNO("%s: request is null!", "process_command");
-    }
+    *request = command->second(opts);
     return 0;
 }
 
@@ -98,8 +104,19 @@ bool is_number(const std::string& word) {
     return word.find_first_not_of("0123456789") == std::string::npos;
 }
 
+namespace {
+
+ProcessEndHook process_end_hook = nullptr;
+
+}  // namespace
+
+void set_process_end_hook(ProcessEndHook hook) {
+    process_end_hook = hook;
+}
+
 void end_process(int status) {
     fflush(nullptr);
+    if (process_end_hook != nullptr) process_end_hook(status);
     exit(status);
 }
 

@@ -23,6 +23,11 @@ class RequestManager {
     // Returns 1 when the command line is refused here, 0 once a handler ran.
     int process_command(int argc, char** argv);
 
+    // The part of process_command before the request runs: checks the command word, classifies
+    // the arguments and calls the handler, which leaves its request (or nothing) in *request.
+    // Returns 1 when the command line is refused here, else 0.
+    int prepare_request(int argc, char** argv, std::shared_ptr<Request>* request);
+
     // Writes the error usage text to stderr.
     static void usage();
 
@@ -78,5 +83,10 @@ class RequestManager {
 
 // Ends the process with the given status after a handler has refused its arguments.
 [[noreturn]] void end_process(int status);
+
+// What end_process calls, after flushing the streams, instead of exit(). It must not return.
+// Only a harness that drives the handlers in-process (a fuzzer) sets one; nullptr restores exit().
+using ProcessEndHook = void (*)(int status);
+void set_process_end_hook(ProcessEndHook hook);
 
 }  // namespace tarn
