@@ -51,7 +51,7 @@ TEST_F(ProcessEndHookTest, OutcomesOfEachStage) {
         {{}, 1, false},          // no command word
         {{"nosuch"}, 1, false},  // unknown command word
         {{"state"}, -1, false},  // handler refuses: hook instead of exit
-        {{"setlogpscfg", "neither"}, -1, false},
+        {{"setlogpscfg", "enable"}, -1, false},
         {{"setcpcapacity", "modem"}, 0, false},  // refused with an empty request
         {{"state", "modem"}, 0, true},           // accepted: the request, not run
         {{"getallvexilstate"}, 0, true},
