@@ -23,6 +23,10 @@ declare -A packages=(
     [checkpolicy]=/usr/bin/checkpolicy
     [g++-aarch64-linux-gnu]=/usr/bin/aarch64-linux-gnu-g++
     [qemu-user]=/usr/bin/qemu-aarch64
+    [clang-14]=/usr/bin/clang++-14
+    [libclang-rt-14-dev]=/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.fuzzer-x86_64.a
+    [clang-tidy-14]=/usr/bin/clang-tidy-14
+    [valgrind]=/usr/bin/valgrind
 )
 
 missing=()
