@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # Runs end-to-end cases with vexilctl under valgrind memcheck: any invalid read or write, use of
 # an uninitialised value, or memory definitely lost fails the case (valgrind's report lands on
-# stderr, and its exit status 99 differs from the expected one). Uses the default build; time
-# limits are stretched for valgrind's slowness.
+# stderr, and its exit status 99 differs from the expected one). Uses the default build (or
+# $VEXIL_BUILD_DIR); time limits are stretched for valgrind's slowness.
 #
 #   bash scripts/check_memcheck.sh             # a small subset (the test command runs this)
 #   bash scripts/check_memcheck.sh --all       # every case file
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-build=build/default
+build="${VEXIL_BUILD_DIR:-build/default}"
 if [ "${1:-}" = "--all" ]; then
     cases=(tests/e2e/cases/*.case)
 else
