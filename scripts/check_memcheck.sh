@@ -18,7 +18,7 @@ else
            tests/e2e/cases/vexilserver.case)
 fi
 
-wrap="valgrind -q --error-exitcode=99 --leak-check=full --show-leak-kinds=definite"
+wrap="valgrind -q --vgdb=no --error-exitcode=99 --leak-check=full --show-leak-kinds=definite"
 wrap+=" --errors-for-leak-kinds=definite"
 python3 tests/e2e/run_cases.py --vexilctl "$build/vexilctl" \
     --tarnmodem "$build/emulator/tarnmodem" --golden tests/golden --jobs "$(nproc)" \
