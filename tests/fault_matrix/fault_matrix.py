@@ -97,19 +97,20 @@ SOCKET_COMMANDS = [
     ("getvexiltopcstate", "GET_LOG_TO_PC_STATE\n", True),
 ]
 
-# Bad answers of vexilserver: name, the "vexilserver" state (None in "replies" for the request
-# line: never answers; a string: the bytes sent back), queries only.
+# Bad answers of vexilserver: name, the reply to the request line (None: never answers; "down":
+# nothing listens), whether only queries take it, and what the tool writes to stderr (with
+# nothing on stdout) where that is the same for every socket command, else None.
 SOCKET_FAULTS = [
-    ("nothing_listening", "down", False),
-    ("never_answers", None, True),
-    ("closes", "close", False),
-    ("garbage", "\u0001\u007f#garbage%s%n\n", False),
-    ("longer_than_32", "OK" + "x" * 40 + "\n", False),
-    ("longer_than_32_error", "ERROR 1" + " " * 40 + "\n", False),
-    ("error_1", "ERROR 1\n", False),
-    ("error_9", "ERROR 9\n", False),
-    ("error_12", "ERROR 12\n", False),
-    ("error_huge", "ERROR 99999999999999999999\n", False),
+    ("nothing_listening", "down", False, "Connect to vexilserver server refused, errno = 111.\n"),
+    ("never_answers", None, True, None),
+    ("closes", "close", False, None),
+    ("garbage", "\u0001\u007f#garbage%s%n\n", False, None),
+    ("longer_than_32", "OK" + "x" * 40 + "\n", False, None),
+    ("longer_than_32_error", "ERROR 1" + " " * 40 + "\n", False, "Error: 1(unknown request)\n"),
+    ("error_1", "ERROR 1\n", False, "Error: 1(unknown request)\n"),
+    ("error_9", "ERROR 9\n", False, "Error: 9(unknown CP or subsystem)\n"),
+    ("error_12", "ERROR 12\n", False, "Invalid response: ERROR 12\n"),
+    ("error_huge", "ERROR 99999999999999999999\n", False, None),
 ]
 
 # Neither stream may carry a sanitizer's report.
@@ -179,14 +180,17 @@ def service_cases() -> list:
 def socket_cases() -> list:
     cases = []
     for argv, line, is_query in SOCKET_COMMANDS:
-        for fault, reply, queries_only in SOCKET_FAULTS:
+        for fault, reply, queries_only, stderr in SOCKET_FAULTS:
             if queries_only and not is_query:
                 continue
             if reply == "down":
                 state = {"vexilserver": {"up": False}}
             else:
                 state = {"vexilserver": {"replies": {line: reply}}}
-            lines = [f"stdout {CLEAN}", f"stderr {CLEAN}"]
+            if stderr is None:
+                lines = [f"stdout {CLEAN}", f"stderr {CLEAN}"]
+            else:
+                lines = ['stdout ""', f"stderr {c_string(stderr)}"]
             cases.append(case(f"{case_stem(argv)}.{fault}", argv, state, lines))
     return cases
 
