@@ -14,13 +14,18 @@ targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(front_fuzzer response_fuzzer vexilserver_line_fuzzer
                                    service_transport_fuzzer)
 
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j"$(nproc)" >/dev/null
+if ! cmake --build --preset fuzz -j"$(nproc)" >"$scratch/build.log" 2>&1; then
+    cat "$scratch/build.log" >&2
+    echo "check_fuzz: the fuzz targets do not build" >&2
+    exit 1
+fi
 
 findings=build/fuzz/findings
 mkdir -p "$findings"
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
 
 # The usage text is its own printf format on purpose ("percentage(%)."): ASan's printf check
 # would read that as a bad conversion.
