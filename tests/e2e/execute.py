@@ -116,44 +116,44 @@ def stop(proc) -> int:
     return proc.returncode
 
 
-def execute(spec: dict) -> dict:
+def execute(job: dict) -> dict:
     out = {"ready": False, "raw": [], "ran": False, "alive_after_raw": True}
     held = []  # connections that stay open while the command runs
     with tempfile.TemporaryDirectory(prefix="vexil-e2e-") as tmp:
         journal = os.path.join(tmp, "journal.jsonl")
         log = os.path.join(tmp, "log.jsonl")
-        args = [spec["tarnmodem"], "--journal", journal, "--log", log]
-        if spec["state"] is not None:
+        args = [job["tarnmodem"], "--journal", journal, "--log", log]
+        if job["state"] is not None:
             state = os.path.join(tmp, "state.json")
             with open(state, "w", encoding="utf-8") as f:
-                f.write(spec["state"])
+                f.write(job["state"])
             args += ["--state", state]
-        args += spec["emulator_args"]
+        args += job["emulator_args"]
         emu_err = open(os.path.join(tmp, "tarnmodem.err"), "w+b")
         proc = subprocess.Popen(args, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=emu_err)
         try:
             out["ready"] = wait_ready(proc)
             if out["ready"]:
-                for raw in spec["raw"]:
+                for raw in job["raw"]:
                     out["raw"].append(run_raw(raw, held))
                 out["alive_after_raw"] = proc.poll() is None
-                if spec["argv"] is not None:
+                if job["argv"] is not None:
                     out["ran"] = True
                     start = time.monotonic()
                     try:
-                        wrap = spec.get("wrap", [])
-                        done = subprocess.run(wrap + [spec["vexilctl"]] + spec["argv"],
+                        wrap = job.get("wrap", [])
+                        done = subprocess.run(wrap + [job["vexilctl"]] + job["argv"],
                                               stdin=subprocess.DEVNULL, capture_output=True,
-                                              timeout=spec["timeout"],
-                                              executable=wrap[0] if wrap else spec["vexilctl"])
+                                              timeout=job["timeout"],
+                                              executable=wrap[0] if wrap else job["vexilctl"])
                         out.update(stdout=b64(done.stdout), stderr=b64(done.stderr),
                                    exit=done.returncode, timed_out=False)
                     except subprocess.TimeoutExpired as e:
                         out.update(stdout=b64(e.stdout or b""), stderr=b64(e.stderr or b""),
                                    exit=None, timed_out=True)
                     out["seconds"] = time.monotonic() - start
-                if spec.get("emulator_gone"):
+                if job.get("emulator_gone"):
                     # Its sockets close before the process is gone: give it a moment to end.
                     try:
                         proc.wait(STOP_SECONDS)
@@ -173,8 +173,8 @@ def execute(spec: dict) -> dict:
 
 
 def main() -> int:
-    spec = json.load(sys.stdin)
-    json.dump(execute(spec), sys.stdout)
+    job = json.load(sys.stdin)
+    json.dump(execute(job), sys.stdout)
     return 0
 
 

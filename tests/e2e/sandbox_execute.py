@@ -61,7 +61,7 @@ def write_executable(path: str, text: str):
     os.chmod(path, 0o755)
 
 
-def prepare(box: dict, spec: dict) -> list:
+def prepare(box: dict, job: dict) -> list:
     """Sets up the case's files and daemons; returns the extra processes to stop afterwards."""
     os.makedirs(WORKDIR)
     os.makedirs(BIN_DIR)
@@ -75,18 +75,18 @@ def prepare(box: dict, spec: dict) -> list:
             os.chmod(path, mode)
 
     # The command runs through sandbox_command.py, which notes what it needs to be judged.
-    os.environ.update(VEXIL_SANDBOX_TOOL=spec["vexilctl"], VEXIL_SANDBOX_REPEAT=str(box["repeat"]),
+    os.environ.update(VEXIL_SANDBOX_TOOL=job["vexilctl"], VEXIL_SANDBOX_REPEAT=str(box["repeat"]),
                       VEXIL_SANDBOX_RUNS=RUNS)
     wrapper = BIN_DIR + "/vexilctl"
     write_executable(wrapper, f'#!/bin/sh\nexec "{sys.executable}" -S '
                               f'"{HERE}/sandbox_command.py" "$@"\n')
-    spec["vexilctl"] = wrapper
+    job["vexilctl"] = wrapper
 
     extra = []
     if box["daemon"] == "none":
         # The emulator still serves and records the log, under a name pidof does not look for.
-        shutil.copy(spec["tarnmodem"], BIN_DIR + "/idlemodem")
-        spec["tarnmodem"] = BIN_DIR + "/idlemodem"
+        shutil.copy(job["tarnmodem"], BIN_DIR + "/idlemodem")
+        job["tarnmodem"] = BIN_DIR + "/idlemodem"
     elif box["daemon"] == "two":
         # A second process named tarnmodem beside the emulator.
         shutil.copy(shutil.which("sleep"), BIN_DIR + "/tarnmodem")
@@ -115,15 +115,15 @@ def listing(top: str, relative: bool) -> dict:
 
 
 def main() -> int:
-    spec = json.load(sys.stdin)
+    job = json.load(sys.stdin)
     for binary in ("tarnmodem", "vexilctl"):
-        spec[binary] = os.path.abspath(spec[binary])  # the working directory changes
+        job[binary] = os.path.abspath(job[binary])  # the working directory changes
     os.umask(0)
     enter_private_root(sys.argv[1])
-    extra = prepare(spec["sandbox"], spec)
+    extra = prepare(job["sandbox"], job)
     os.chdir(WORKDIR)
     try:
-        out = execute.execute(spec)
+        out = execute.execute(job)
     finally:
         for proc in extra:
             proc.send_signal(signal.SIGTERM)
