@@ -39,8 +39,8 @@ bool filesystem_address(const char* path, sockaddr_un* addr, socklen_t* len) {
     return fill_address(path, false, addr, len);
 }
 
-int connect_stream(const sockaddr_un& addr, socklen_t len) {
-    int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+int connect_local(const sockaddr_un& addr, socklen_t len, int type) {
+    int fd = socket(AF_UNIX, type, 0);
     if (fd < 0) return -1;
     if (connect(fd, reinterpret_cast<const sockaddr*>(&addr), len) < 0) {
         int saved = errno;
@@ -49,6 +49,10 @@ int connect_stream(const sockaddr_un& addr, socklen_t len) {
         return -1;
     }
     return fd;
+}
+
+int connect_stream(const sockaddr_un& addr, socklen_t len) {
+    return connect_local(addr, len, SOCK_STREAM | SOCK_CLOEXEC);
 }
 
 }  // namespace host

@@ -36,13 +36,5 @@ int socket_local_client(const char* name, int namespaceId, int type) {
     sockaddr_un addr;
     socklen_t len;
     if (!address_of(name, namespaceId, &addr, &len)) return -1;
-    int fd = socket(AF_UNIX, type, 0);
-    if (fd < 0) return -1;
-    if (connect(fd, reinterpret_cast<const sockaddr*>(&addr), len) < 0) {
-        int saved = errno;
-        close(fd);
-        errno = saved;
-        return -1;
-    }
-    return fd;
+    return host::connect_local(addr, len, type);
 }
