@@ -756,19 +756,28 @@ def emit_interface_header(decl, root):
     return "\n".join(out)
 
 
-def emit_bp_header(decl, root):
-    bp = bp_name(decl)
+def class_header_start(decl, root, std_include, class_line):
+    """The opening lines shared by the proxy and stub headers, up to "public:"."""
     out = banner(decl, root) + ["#pragma once", ""]
     out += [
         f'#include "{header_path(decl.package, decl.name)}"',
         "",
         "#include <android/binder_ibinder.h>",
         "",
-        "#include <mutex>",
+        f"#include <{std_include}>",
         "",
         namespace_open(decl.package),
-        f"class {bp} : public ::ndk::BpCInterface<{decl.name}> {{",
+        class_line,
         "public:",
+    ]
+    return out
+
+
+def emit_bp_header(decl, root):
+    bp = bp_name(decl)
+    out = class_header_start(decl, root, "mutex",
+                             f"class {bp} : public ::ndk::BpCInterface<{decl.name}> {{")
+    out += [
         f"  explicit {bp}(const ::ndk::SpAIBinder& binder);",
         f"  virtual ~{bp}();",
         "",
@@ -787,17 +796,9 @@ def emit_bp_header(decl, root):
 
 def emit_bn_header(decl, root):
     bn = bn_name(decl)
-    out = banner(decl, root) + ["#pragma once", ""]
+    out = class_header_start(decl, root, "cassert",
+                             f"class {bn} : public ::ndk::BnCInterface<{decl.name}> {{")
     out += [
-        f'#include "{header_path(decl.package, decl.name)}"',
-        "",
-        "#include <android/binder_ibinder.h>",
-        "",
-        "#include <cassert>",
-        "",
-        namespace_open(decl.package),
-        f"class {bn} : public ::ndk::BnCInterface<{decl.name}> {{",
-        "public:",
         f"  {bn}();",
         f"  virtual ~{bn}();",
         "  ::ndk::ScopedAStatus getInterfaceVersion(int32_t* _aidl_return) final;",
