@@ -13,6 +13,10 @@ bool parse_command_line(int argc, const char* const* argv, CommandLine& out, std
     };
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
+        if (arg == "--help" || arg == "-h") {
+            out.help = true;
+            continue;
+        }
         std::string value;
         bool has_value = false;
         size_t eq = arg.find('=');

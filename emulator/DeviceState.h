@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <map>
-#include <mutex>
 #include <string>
 
 #include "ServiceTypes.h"
@@ -44,22 +43,5 @@ DeviceState default_device_state();
 
 // Whether the device has the co-processor of a SubsystemType value (0 and unknown: no).
 bool has_subsystem(const DeviceState& state, int32_t type);
-
-// The state, shared by the service threads and the socket threads.
-class SharedDeviceState {
-  public:
-    explicit SharedDeviceState(DeviceState initial) : state_(std::move(initial)) {}
-
-    // Runs f on the state under the lock and returns what f returns.
-    template <typename F>
-    auto with(F f) {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return f(state_);
-    }
-
-  private:
-    std::mutex mutex_;
-    DeviceState state_;
-};
 
 }  // namespace tarnmodem

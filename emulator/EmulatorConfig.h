@@ -26,6 +26,8 @@ struct EmulatorConfig {
 // Fills config from the JSON text of a state file, on top of the defaults. False with a message
 // naming the offending key when the text is not a valid state.
 bool parse_state(const std::string& text, EmulatorConfig& config, std::string& error);
+// The same for a state already parsed as JSON.
+bool parse_state_json(const Json& root, EmulatorConfig& config, std::string& error);
 
 // Reads and parses a state file; the message names the file.
 bool load_state_file(const std::string& path, EmulatorConfig& config, std::string& error);

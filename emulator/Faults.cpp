@@ -19,7 +19,9 @@ ndk::ScopedAStatus FaultStatus::make() const {
     return ndk::ScopedAStatus::ok();
 }
 
-std::optional<int32_t> exception_code(const std::string& name) {
+namespace {
+
+const std::map<std::string, int32_t>& exception_codes() {
     static const std::map<std::string, int32_t> codes{
         {"EX_NONE", EX_NONE},
         {"EX_SECURITY", EX_SECURITY},
@@ -33,9 +35,22 @@ std::optional<int32_t> exception_code(const std::string& name) {
         {"EX_PARCELABLE", EX_PARCELABLE},
         {"EX_TRANSACTION_FAILED", EX_TRANSACTION_FAILED},
     };
-    auto it = codes.find(name);
-    if (it == codes.end()) return std::nullopt;
+    return codes;
+}
+
+}  // namespace
+
+std::optional<int32_t> exception_code(const std::string& name) {
+    auto it = exception_codes().find(name);
+    if (it == exception_codes().end()) return std::nullopt;
     return it->second;
+}
+
+std::string exception_name(int32_t code) {
+    for (const auto& [name, value] : exception_codes()) {
+        if (value == code) return name;
+    }
+    return "EX_SERVICE_SPECIFIC";
 }
 
 const std::map<std::string, Operation>& service_operations() {

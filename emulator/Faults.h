@@ -29,6 +29,8 @@ using FaultTable = std::map<std::string, Fault>;
 
 // The exception code of a name such as "EX_ILLEGAL_STATE"; nothing for an unknown name.
 std::optional<int32_t> exception_code(const std::string& name);
+// The name of an exception code that exception_code knows.
+std::string exception_name(int32_t code);
 
 // An operation of the service: its name and whether it returns an int32 (an int result or an
 // int-backed enum), which a "result" fault can replace.

@@ -1,5 +1,10 @@
 #include "JsonLines.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
 namespace tarnmodem {
 
 std::string to_json_line(const Json& value) {
@@ -7,21 +12,29 @@ std::string to_json_line(const Json& value) {
 }
 
 JsonLineFile::~JsonLineFile() {
-    if (file_ != nullptr) fclose(file_);
+    if (fd_ >= 0) close(fd_);
 }
 
 bool JsonLineFile::open(const std::string& path) {
-    file_ = fopen(path.c_str(), "ae");
-    return file_ != nullptr;
+    fd_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
+    return fd_ >= 0;
 }
 
 void JsonLineFile::write(const Json& value) {
-    std::string line = to_json_line(value);
-    line += '\n';
+    write_text(to_json_line(value) + '\n');
+}
+
+void JsonLineFile::write_text(const std::string& lines) {
     std::lock_guard<std::mutex> lock(mutex_);
-    if (file_ == nullptr) return;
-    fwrite(line.data(), 1, line.size(), file_);
-    fflush(file_);
+    if (fd_ < 0) return;
+    // One write of an appending file: lines of the daemon's processes never interleave.
+    size_t done = 0;
+    while (done < lines.size()) {
+        ssize_t n = ::write(fd_, lines.data() + done, lines.size() - done);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return;
+        done += static_cast<size_t>(n);
+    }
 }
 
 }  // namespace tarnmodem

@@ -1,7 +1,6 @@
 // Append-only files of one JSON object per line, shared by the journal and the log record.
 #pragma once
 
-#include <cstdio>
 #include <mutex>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -15,8 +14,8 @@ using Json = nlohmann::ordered_json;
 // anything) come out as U+FFFD instead of making the encoder throw.
 std::string to_json_line(const Json& value);
 
-// Writes whole lines from any thread, each flushed at once so that a reader sees it as soon
-// as it was written. A writer without a file drops every line.
+// Writes whole lines from any thread and any process that shares the file, each at once so that
+// a reader sees it as soon as it was written. A writer without a file drops every line.
 class JsonLineFile {
   public:
     JsonLineFile() = default;
@@ -27,10 +26,12 @@ class JsonLineFile {
     // Opens the file for appending; false with errno set when it cannot be opened.
     bool open(const std::string& path);
     void write(const Json& value);
+    // Lines already encoded, each with its line end.
+    void write_text(const std::string& lines);
 
   private:
     std::mutex mutex_;
-    FILE* file_ = nullptr;
+    int fd_ = -1;
 };
 
 }  // namespace tarnmodem

@@ -48,23 +48,23 @@ int32_t cp_value(const std::map<int32_t, int32_t>& values, int32_t cp_index) {
 
 }  // namespace
 
-std::optional<ndk::ScopedAStatus> LogControlService::arrive(const char* op, Json args) {
+std::optional<ndk::ScopedAStatus> LogControlService::arrive(const char* op, Json args,
+                                                            std::optional<Fault>& fault) {
     journal_.service_call(op, std::move(args));
-    auto fault = faults_.find(op);
-    if (fault == faults_.end()) return std::nullopt;
-    if (fault->second.die) _exit(0);  // the client sees its call hang up
-    if (fault->second.status && fault->second.status->kind != FaultStatus::Kind::kOk) {
-        return fault->second.status->make();
-    }
+    fault = state_.fault(op);
+    if (!fault) return std::nullopt;
+    if (fault->die) _exit(0);  // the client sees its call hang up; the daemon's other parts live on
+    if (fault->status && fault->status->kind != FaultStatus::Kind::kOk)
+        return fault->status->make();
     return std::nullopt;
 }
 
 ndk::ScopedAStatus LogControlService::serve(const char* op, Json args, int32_t* result,
                                             const Body& body) {
-    if (auto early = arrive(op, std::move(args))) return std::move(*early);
-    auto fault = faults_.find(op);
+    std::optional<Fault> fault;
+    if (auto early = arrive(op, std::move(args), fault)) return std::move(*early);
     std::optional<int32_t> forced;
-    if (fault != faults_.end()) forced = fault->second.result;
+    if (fault) forced = fault->result;
     int32_t value = state_.with([&](DeviceState& state) {
         if (!forced) return body(state);
         DeviceState scratch = state;
@@ -76,7 +76,8 @@ ndk::ScopedAStatus LogControlService::serve(const char* op, Json args, int32_t* 
 }
 
 ndk::ScopedAStatus LogControlService::unimplemented(const char* op) {
-    if (auto early = arrive(op, Json::array())) return std::move(*early);
+    std::optional<Fault> fault;
+    if (auto early = arrive(op, Json::array(), fault)) return std::move(*early);
     return ndk::ScopedAStatus::fromStatus(STATUS_UNKNOWN_TRANSACTION);
 }
 

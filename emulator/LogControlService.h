@@ -11,13 +11,13 @@
 #include "Faults.h"
 #include "Journal.h"
 #include "ServiceTypes.h"
+#include "SharedState.h"
 
 namespace tarnmodem {
 
 class LogControlService : public svc::BnSysLogControl {
   public:
-    LogControlService(SharedDeviceState& state, const FaultTable& faults, Journal& journal)
-        : state_(state), faults_(faults), journal_(journal) {}
+    LogControlService(SharedState& state, Journal& journal) : state_(state), journal_(journal) {}
 
     ndk::ScopedAStatus crashSubsystem(svc::SubsystemType in_type, int32_t* _aidl_return) override;
     ndk::ScopedAStatus clearLogs(int32_t* _aidl_return) override;
@@ -90,8 +90,8 @@ class LogControlService : public svc::BnSysLogControl {
     using Body = std::function<int32_t(DeviceState&)>;
 
     // Records the call and applies its "die" and "status" faults: a status to answer with at
-    // once, or nothing when the call is to be carried out.
-    std::optional<ndk::ScopedAStatus> arrive(const char* op, Json args);
+    // once, or nothing when the call is to be carried out (fault then holds its fault, if any).
+    std::optional<ndk::ScopedAStatus> arrive(const char* op, Json args, std::optional<Fault>& fault);
     // Carries out a call: body works on the state and returns the int result, which goes to
     // *result when the operation has one. A "result" fault runs body on a copy of the state
     // (so out values are filled but nothing changes) and returns its own value.
@@ -106,8 +106,7 @@ class LogControlService : public svc::BnSysLogControl {
     ndk::ScopedAStatus set_record(const char* op, Record DeviceState::*field, const Record& in,
                                   int32_t* result);
 
-    SharedDeviceState& state_;
-    const FaultTable& faults_;
+    SharedState& state_;
     Journal& journal_;
 };
 

@@ -15,6 +15,7 @@ namespace {
 
 // The largest datagram a local socket carries by default is well below this.
 constexpr size_t kMaxDatagram = 256 * 1024;
+constexpr size_t kBatchBytes = 64 * 1024;
 
 // The bytes from pos up to the next NUL or the end; pos moves past the NUL.
 std::string take_field(const unsigned char* data, size_t len, size_t& pos) {
@@ -75,11 +76,20 @@ void LogSink::receive_loop() {
 }
 
 bool LogSink::drain() {
+    // Lines are written in batches: one write per queue-full keeps the receiver ahead of bursts.
+    std::string lines;
     for (;;) {
         ssize_t n = recv(socket_, buffer_.data(), buffer_.size(), MSG_DONTWAIT);
-        if (n < 0) return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
+        if (n < 0) {
+            out_.write_text(lines);
+            return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
+        }
         Json line = decode_log_datagram(buffer_.data(), static_cast<size_t>(n));
-        if (!line.is_null()) out_.write(line);
+        if (!line.is_null()) lines += to_json_line(line) + '\n';
+        if (lines.size() >= kBatchBytes) {
+            out_.write_text(lines);
+            lines.clear();
+        }
     }
 }
 

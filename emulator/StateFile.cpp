@@ -91,6 +91,47 @@ void read_faults(const Json& value, FaultTable& faults) {
     }
 }
 
+// The longest pause of a reply piece: the longest wait of a client, and a little more.
+constexpr int32_t kMaxDelayMs = 600000;
+
+// A list of strings (bytes, each sent in one write) and numbers (the pause in ms before the
+// next bytes).
+std::vector<ReplyPiece> read_pieces(const Json& value, const std::string& path) {
+    std::vector<ReplyPiece> pieces;
+    int delay_ms = 0;
+    for (const Json& item : value) {
+        if (item.is_string()) {
+            pieces.push_back({delay_ms, item.get<std::string>()});
+            delay_ms = 0;
+            continue;
+        }
+        int32_t pause = item.is_number_integer() ? int32_from_json(item, path) : -1;
+        if (pause < 0 || pause > kMaxDelayMs) {
+            throw StateError(path, "must hold strings and pauses from 0 to " +
+                                       std::to_string(kMaxDelayMs) + " ms");
+        }
+        delay_ms += pause;
+    }
+    if (delay_ms > 0) pieces.push_back({delay_ms, ""});
+    return pieces;
+}
+
+ReplyOverride read_reply(const Json& reply, const std::string& path) {
+    ReplyOverride out;
+    if (reply.is_null()) {
+        out.kind = ReplyOverride::Kind::kSilent;
+    } else if (reply == "close") {
+        out.kind = ReplyOverride::Kind::kClose;
+    } else if (reply.is_string()) {
+        out.pieces.push_back({0, reply.get<std::string>()});
+    } else if (reply.is_array()) {
+        out.pieces = read_pieces(reply, path);
+    } else {
+        throw StateError(path, "must be a string, a list or null");
+    }
+    return out;
+}
+
 void read_vexilserver(const Json& value, VexilServerConfig& config) {
     if (!value.is_object()) throw StateError("vexilserver", "must be an object");
     for (const auto& [key, item] : value.items()) {
@@ -101,17 +142,7 @@ void read_vexilserver(const Json& value, VexilServerConfig& config) {
         } else if (key == "replies") {
             if (!item.is_object()) throw StateError(path, "must be an object");
             for (const auto& [line, reply] : item.items()) {
-                ReplyOverride override_reply;
-                if (reply.is_null()) {
-                    override_reply.kind = ReplyOverride::Kind::kSilent;
-                } else if (reply == "close") {
-                    override_reply.kind = ReplyOverride::Kind::kClose;
-                } else if (reply.is_string()) {
-                    override_reply.bytes = reply.get<std::string>();
-                } else {
-                    throw StateError(path + "." + line, "must be a string or null");
-                }
-                config.replies[line] = override_reply;
+                config.replies[line] = read_reply(reply, path + "." + line);
             }
         } else {
             throw StateError(path, "is not a key of vexilserver (up, replies)");
@@ -170,8 +201,19 @@ void read_state(const Json& root, EmulatorConfig& config) {
 }  // namespace
 
 bool parse_state(const std::string& text, EmulatorConfig& config, std::string& error) {
+    Json root;
     try {
-        read_state(Json::parse(text), config);
+        root = Json::parse(text);
+    } catch (const Json::exception& e) {
+        error = std::string("not valid JSON: ") + e.what();
+        return false;
+    }
+    return parse_state_json(root, config, error);
+}
+
+bool parse_state_json(const Json& root, EmulatorConfig& config, std::string& error) {
+    try {
+        read_state(root, config);
         return true;
     } catch (const StateError& e) {
         error = e.what();

@@ -45,6 +45,23 @@ bool VexilServer::start(const std::string& name) {
     return true;
 }
 
+void VexilServer::replace_replies(ReplyTable replies) {
+    auto table = std::make_shared<const ReplyTable>(std::move(replies));
+    std::lock_guard<std::mutex> lock(replies_mutex_);
+    replies_ = std::move(table);
+}
+
+std::optional<ReplyOverride> VexilServer::find_reply(const std::string& line) {
+    std::shared_ptr<const ReplyTable> table;
+    {
+        std::lock_guard<std::mutex> lock(replies_mutex_);
+        table = replies_;
+    }
+    auto it = table->find(line);
+    if (it == table->end()) return std::nullopt;
+    return it->second;
+}
+
 void VexilServer::accept_loop(int listener) {
     for (;;) {
         int client = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC);
@@ -99,17 +116,19 @@ void VexilServer::serve(int client) {
 bool VexilServer::respond(int client, const std::string& line, bool& silent) {
     journal_.vexilserver_request(line);
     if (silent) return true;  // a client that waits in vain gets nothing more either
-    auto override_it = config_.replies.find(line);
-    if (override_it == config_.replies.end()) {
+    std::optional<ReplyOverride> reply = find_reply(line);
+    if (!reply) {
         std::string request = line;
         if (!request.empty() && request.back() == '\n') request.pop_back();
         send_all(client, answerer_(request));
         return true;
     }
-    const ReplyOverride& reply = override_it->second;
-    switch (reply.kind) {
+    switch (reply->kind) {
         case ReplyOverride::Kind::kBytes:
-            send_all(client, reply.bytes);
+            for (const ReplyPiece& piece : reply->pieces) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(piece.delay_ms));
+                send_all(client, piece.bytes);
+            }
             return true;
         case ReplyOverride::Kind::kSilent:
             silent = true;

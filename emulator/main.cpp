@@ -1,8 +1,6 @@
-// tarnmodem: host stand-in for the device's log daemon. Serves the log-control service, the
-// vexilserver command socket and the log sink until SIGTERM or SIGINT.
-#include <aidl/vendor/kest/hardware/vexil_svc/ISysLogControl.h>
-#include <android/binder_manager.h>
-#include <android/binder_process.h>
+// tarnmodem: host stand-in for the device's log daemon. Serves the log-control service (in a
+// process of its own), the vexilserver command socket and the log sink until SIGTERM or SIGINT;
+// SIGHUP reads the state file again.
 #include <host/log_sink.h>
 #include <pthread.h>
 #include <signal.h>
@@ -16,10 +14,10 @@
 
 #include "CommandLine.h"
 #include "EmulatorConfig.h"
-#include "ForeignService.h"
 #include "Journal.h"
-#include "LogControlService.h"
 #include "LogSink.h"
+#include "ServiceProcess.h"
+#include "SharedState.h"
 #include "VexilProtocol.h"
 #include "VexilServer.h"
 
@@ -39,23 +37,34 @@ std::string with_errno(const std::string& what) {
     return what + ": " + strerror(errno);
 }
 
-void publish_service(ServicePublication publication, SharedDeviceState& state,
-                     const FaultTable& faults, Journal& journal) {
-    if (publication == ServicePublication::kAbsent) return;
-    ndk::SpAIBinder binder;
-    if (publication == ServicePublication::kPresent) {
-        // The service object lives as long as the process.
-        static std::shared_ptr<LogControlService> service =
-            ndk::SharedRefBase::make<LogControlService>(state, faults, journal);
-        binder = service->asBinder();
-    } else {
-        binder = make_foreign_service();
+// A line on standard output that a script can wait for.
+void announce(const char* line) {
+    printf("%s\n", line);
+    fflush(stdout);
+}
+
+// Records, faults and replies from the state file again (the defaults without one); the service
+// comes back when it died or the file asks for another publication. Journal and log go on.
+void reload(const std::string& path, SharedState& state, VexilServer& vexilserver,
+            ServiceProcess& service) {
+    EmulatorConfig config;
+    std::string error;
+    if (!path.empty() && !load_state_file(path, config, error)) {
+        fprintf(stderr, "tarnmodem: reload: %s\n", error.c_str());
+        announce("reload failed");
+        return;
     }
-    const std::string instance = std::string(svc::ISysLogControl::descriptor) + "/default";
-    if (AServiceManager_addService(binder.get(), instance.c_str()) != EX_NONE) {
-        fail(kCannotServe, with_errno("cannot publish " + instance));
+    state.replace(config.device, config.faults);
+    vexilserver.replace_replies(config.vexilserver.replies);
+    if (!service.running() || service.publication() != config.service) {
+        service.stop();
+        if (!service.start(config.service, error)) {
+            fprintf(stderr, "tarnmodem: reload: %s\n", error.c_str());
+            announce("reload failed");
+            return;
+        }
     }
-    ABinderProcess_startThreadPool();
+    announce("reloaded");
 }
 
 }  // namespace
@@ -70,6 +79,10 @@ int main(int argc, char** argv) {
         fprintf(stderr, "tarnmodem: %s\n%s", error.c_str(), kUsage);
         return kBadUsage;
     }
+    if (options.help) {
+        fputs(kUsage, stdout);
+        return 0;
+    }
     EmulatorConfig config;
     if (!options.state_path.empty() && !load_state_file(options.state_path, config, error)) {
         fail(kBadUsage, error);
@@ -83,30 +96,41 @@ int main(int argc, char** argv) {
         fail(kBadUsage, with_errno("cannot open log " + options.log_path));
     }
 
-    // Every thread started from here on leaves the stop signals to the main thread.
-    sigset_t stop_signals;
-    sigemptyset(&stop_signals);
-    sigaddset(&stop_signals, SIGTERM);
-    sigaddset(&stop_signals, SIGINT);
-    pthread_sigmask(SIG_BLOCK, &stop_signals, nullptr);
+    // Every thread and the service process leave these signals to the main thread.
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (int s : {SIGTERM, SIGINT, SIGHUP, SIGCHLD}) sigaddset(&signals, s);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 
-    SharedDeviceState state(config.device);
+    std::unique_ptr<SharedState> state = SharedState::create(config.device, config.faults);
+    if (!state) fail(kCannotServe, with_errno("cannot share the state"));
+    // Forked before any thread starts.
+    ServiceProcess service(*state, options.journal_path, argc, argv);
+    if (!service.start(config.service, error)) fail(kCannotServe, error);
+
     LogSink log_sink(log_file);
     if (!log_sink.start(kHostLogSinkName)) fail(kCannotServe, with_errno("cannot bind log sink"));
-    VexilServer vexilserver(config.vexilserver, journal, [&state](const std::string& request) {
-        return state.with([&](DeviceState& s) { return answer_vexilserver_request(request, s); });
+    VexilServer vexilserver(config.vexilserver.replies, journal, [&state](const std::string& line) {
+        return state->with([&](DeviceState& s) { return answer_vexilserver_request(line, s); });
     });
     if (config.vexilserver.up && !vexilserver.start("vexilserver")) {
         fail(kCannotServe, with_errno("cannot listen on vexilserver"));
     }
-    publish_service(config.service, state, config.faults, journal);
+    announce("ready");
 
-    printf("ready\n");
-    fflush(stdout);
-
-    int signal_number = 0;
-    sigwait(&stop_signals, &signal_number);
+    for (;;) {
+        int signal_number = 0;
+        sigwait(&signals, &signal_number);
+        if (signal_number == SIGCHLD) {
+            service.reap();
+        } else if (signal_number == SIGHUP) {
+            reload(options.state_path, *state, vexilserver, service);
+        } else {
+            break;
+        }
+    }
+    service.stop();
     log_sink.stop();  // records the lines already sent
-    // Service and socket threads may be inside a call: leave without running destructors.
+    // Socket threads may be inside a call: leave without running destructors.
     _exit(0);
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "EmulatorConfig.h"
 
@@ -39,7 +40,7 @@ TEST(EmulatorStateFile, OverridesOnlyTheFieldsGiven) {
         "StorageMedia": 2, "ParentLogPath": "/mnt/logs",
         "AutoReboot": {"1": 2}, "RunState": {"0": 0},
         "vexilserver": {"up": false, "replies": {"GET_LOG_STATE\n": "OK ON\n",
-                        "A\n": null, "B\n": "close"}}
+                        "A\n": null, "B\n": "close", "C\n": ["OK", 200, " ON\n", 5]}}
     })",
                             config, error))
         << error;
@@ -57,7 +58,14 @@ TEST(EmulatorStateFile, OverridesOnlyTheFieldsGiven) {
     EXPECT_EQ(d.autoReboot.at(0), 1);
     EXPECT_EQ(d.runState.at(0), 0);
     EXPECT_FALSE(config.vexilserver.up);
-    EXPECT_EQ(config.vexilserver.replies.at("GET_LOG_STATE\n").bytes, "OK ON\n");
+    using Pieces = std::vector<ReplyPiece>;
+    auto pieces = [&](const char* line) {
+        Pieces out;
+        for (const ReplyPiece& p : config.vexilserver.replies.at(line).pieces) out.push_back(p);
+        return out;
+    };
+    EXPECT_EQ(pieces("GET_LOG_STATE\n"), (Pieces{{0, "OK ON\n"}}));
+    EXPECT_EQ(pieces("C\n"), (Pieces{{0, "OK"}, {200, " ON\n"}, {5, ""}}));
     EXPECT_EQ(config.vexilserver.replies.at("A\n").kind, ReplyOverride::Kind::kSilent);
     EXPECT_EQ(config.vexilserver.replies.at("B\n").kind, ReplyOverride::Kind::kClose);
 }
@@ -82,20 +90,6 @@ TEST(EmulatorStateFile, ReadsEveryKindOfFault) {
     EXPECT_EQ(f.at("getCellularLogSettings").result, -1);
     EXPECT_TRUE(f.at("crashSubsystem").die);
     EXPECT_FALSE(f.at("crashSubsystem").status.has_value());
-}
-
-TEST(EmulatorStateFile, StatusesBecomeTheBinderStatusesTheyName) {
-    EXPECT_TRUE(FaultStatus{}.make().isOk());
-    ndk::ScopedAStatus ex = FaultStatus{FaultStatus::Kind::kException, EX_ILLEGAL_STATE}.make();
-    EXPECT_FALSE(ex.isOk());
-    EXPECT_EQ(ex.getExceptionCode(), EX_ILLEGAL_STATE);
-    ndk::ScopedAStatus specific =
-        FaultStatus{FaultStatus::Kind::kException, EX_SERVICE_SPECIFIC}.make();
-    EXPECT_EQ(specific.getExceptionCode(), EX_SERVICE_SPECIFIC);
-    ndk::ScopedAStatus dead = FaultStatus{FaultStatus::Kind::kStatusCode, STATUS_DEAD_OBJECT}.make();
-    EXPECT_EQ(dead.getExceptionCode(), EX_TRANSACTION_FAILED);
-    EXPECT_EQ(dead.getStatus(), STATUS_DEAD_OBJECT);
-    EXPECT_TRUE((FaultStatus{FaultStatus::Kind::kStatusCode, 0}.make().isOk()));
 }
 
 TEST(EmulatorStateFile, RefusalsNameTheKey) {
@@ -135,6 +129,9 @@ TEST(EmulatorStateFile, RefusalsNameTheKey) {
         {R"({"vexilserver": {"up": "yes"}})", "\"vexilserver.up\""},
         {R"({"vexilserver": {"down": true}})", "\"vexilserver.down\""},
         {R"({"vexilserver": {"replies": {"X\n": 3}}})", "\"vexilserver.replies.X\n\""},
+        {R"({"vexilserver": {"replies": {"X\n": [-1]}}})", "\"vexilserver.replies.X\n\""},
+        {R"({"vexilserver": {"replies": {"X\n": [600001]}}})", "pauses from 0 to 600000"},
+        {R"({"vexilserver": {"replies": {"X\n": [null]}}})", "\"vexilserver.replies.X\n\""},
         {R"({"mode": )", "not valid JSON"},
         {"", "not valid JSON"},
         {"{\"ParentLogPath\": \"\xff\"}", "not valid JSON"},
