@@ -147,7 +147,7 @@ def operations_without_int() -> set:
 def call_fault_lines(op: str, fault: str, ops: list, write_after: dict) -> list:
     """What a cell with this call fault checks beyond the clean streams."""
     if fault == "dies":
-        return ["emulator gone", f"no-call-after {op}"]
+        return ['log "onBinderDied: Enter onBinderDied\\n"', f"no-call-after {op}"]
     if not op.startswith("get"):
         return [f"no-call-after {op}"]
     if fault in write_after.get(op, ()):
