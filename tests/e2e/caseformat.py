@@ -61,6 +61,8 @@ class Case:
     log: List[Matcher] = field(default_factory=list)
     log_exact: bool = False
     emulator_gone: bool = False
+    reload: Optional[str] = None  # state file text put in place before SIGHUP
+    reload_line: bytes = b"reloaded\n"  # what tarnmodem must print for the reload
     emulator_exit: Optional[int] = None
     emulator_stderr: Optional[Matcher] = None
     sandbox: Optional[object] = None  # sandbox.Sandbox when the case uses its directives
@@ -311,6 +313,9 @@ def parse_file(path: Path, golden_dir: Path) -> List[Case]:
             case.state = value
         elif key == "state-raw":
             case.state = value
+        elif key in ("reload", "reload-refused"):
+            case.reload = value
+            case.reload_line = b"reloaded\n" if key == "reload" else b"reload failed\n"
         elif key == "emulator-args":
             case.emulator_args = shlex.split(value)
         elif key == "raw":

@@ -26,22 +26,28 @@ def b64(data: bytes) -> str:
     return base64.b64encode(data).decode("ascii")
 
 
-def wait_ready(proc) -> bool:
-    """True once tarnmodem printed its ready line; False when it ended or took too long."""
+def read_line(proc) -> bytes:
+    """The next line tarnmodem prints; what came of it when it ended or took too long."""
     deadline = time.monotonic() + READY_SECONDS
     seen = b""
     fd = proc.stdout.fileno()
-    while time.monotonic() < deadline:
+    while time.monotonic() < deadline and not seen.endswith(b"\n"):
         readable, _, _ = select.select([fd], [], [], max(0.0, deadline - time.monotonic()))
         if not readable:
             break
-        chunk = os.read(fd, 4096)
+        chunk = os.read(fd, 1)
         if not chunk:
-            return False
+            break
         seen += chunk
-        if b"ready\n" in seen:
-            return True
-    return False
+    return seen
+
+
+def reload(proc, state: str, text: str) -> bytes:
+    """Puts text in place of the state file, sends SIGHUP and returns tarnmodem's answer."""
+    with open(state, "w", encoding="utf-8") as f:
+        f.write(text)
+    proc.send_signal(signal.SIGHUP)
+    return read_line(proc)
 
 
 def run_raw(raw: dict, held: list) -> dict:
@@ -123,20 +129,22 @@ def execute(job: dict) -> dict:
         journal = os.path.join(tmp, "journal.jsonl")
         log = os.path.join(tmp, "log.jsonl")
         args = [job["tarnmodem"], "--journal", journal, "--log", log]
-        if job["state"] is not None:
-            state = os.path.join(tmp, "state.json")
+        state = os.path.join(tmp, "state.json")
+        if job["state"] is not None or job.get("reload") is not None:
             with open(state, "w", encoding="utf-8") as f:
-                f.write(job["state"])
+                f.write(job["state"] or "{}")
             args += ["--state", state]
         args += job["emulator_args"]
         emu_err = open(os.path.join(tmp, "tarnmodem.err"), "w+b")
         proc = subprocess.Popen(args, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=emu_err)
         try:
-            out["ready"] = wait_ready(proc)
+            out["ready"] = read_line(proc) == b"ready\n"
             if out["ready"]:
                 for raw in job["raw"]:
                     out["raw"].append(run_raw(raw, held))
+                if job.get("reload") is not None:
+                    out["reload_line"] = b64(reload(proc, state, job["reload"]))
                 out["alive_after_raw"] = proc.poll() is None
                 if job["argv"] is not None:
                     out["ran"] = True

@@ -55,6 +55,7 @@ def spec_of(case: Case, args) -> dict:
         "argv": case.argv,
         "timeout": case.timeout * args.slowdown,
         "emulator_gone": case.emulator_gone,
+        "reload": case.reload,
         "sandbox": sandbox.spec_of(case),
     }
 
@@ -173,6 +174,9 @@ def judge(case: Case, seen: dict) -> list:
         elif raw.expect is not None and not raw.expect.matches(decode(result["reply"])):
             problems.append(f"raw client of line {raw.line}: reply {c_quote(decode(result['reply']))}"
                             f", expected {raw.expect.describe()}")
+    if case.reload is not None and decode(seen["reload_line"]) != case.reload_line:
+        problems.append(f"reload printed {c_quote(decode(seen['reload_line']))}, expected "
+                        f"{c_quote(case.reload_line)}")
     if not seen["alive_after_raw"]:
         problems.append("tarnmodem died from the raw clients\n"
                         f"      stderr: {c_quote(emu_err)}")
