@@ -7,9 +7,10 @@ cd "$(dirname "$0")/.."
 root=$(pwd)
 
 if [ -z "${VEXIL_DEMO_INSIDE:-}" ]; then
-    [ -f scripts/install_deps.sh ] && bash scripts/install_deps.sh
-    cmake --preset default >/dev/null
-    cmake --build --preset default -j"$(nproc)" --target vexilctl tarnmodem
+    bash scripts/install_deps.sh demo
+    # A build of its own without the tests, which need more than the demo installs.
+    cmake -S . -B build/demo -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXIL_TESTS=OFF >/dev/null
+    cmake --build build/demo -j"$(nproc)" --target vexilctl tarnmodem
     # Run the session in a network namespace of its own when possible, so that the daemon's
     # abstract socket names cannot meet those of anything else on this machine.
     for ns in "unshare -n" "unshare -rn"; do
@@ -22,7 +23,7 @@ if [ -z "${VEXIL_DEMO_INSIDE:-}" ]; then
     export VEXIL_DEMO_INSIDE=1
 fi
 
-build=$root/build/default
+build=$root/build/demo
 tarnmodem=$build/emulator/tarnmodem
 vexilctl=$build/vexilctl
 work=$(mktemp -d)

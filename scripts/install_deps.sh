@@ -1,20 +1,27 @@
 #!/usr/bin/env bash
 # Installs what the host build and its tests need on a Debian machine, and nothing when all is
 # there already. Needs root (apt-get) only when something is missing.
+#   bash scripts/install_deps.sh        everything the test command uses
+#   bash scripts/install_deps.sh demo   only what the demo (tool and emulator) needs
 set -euo pipefail
 
-# Debian package -> a file that shows it is installed.
+# Debian package -> a file that shows it is installed. The build itself: compiler, CMake,
+# Ninja, Python (the AIDL generator), nlohmann-json (the emulator), unshare (the demo's
+# network namespace).
 declare -A packages=(
     [g++]=/usr/bin/g++
     [cmake]=/usr/bin/cmake
     [ninja-build]=/usr/bin/ninja
     [python3]=/usr/bin/python3
+    [nlohmann-json3-dev]=/usr/include/nlohmann/json.hpp
+    [util-linux]=/usr/bin/unshare
+)
+# The tests and checks.
+[ "${1:-}" = demo ] || packages+=(
     [libgtest-dev]=/usr/include/gtest/gtest.h
     [libgmock-dev]=/usr/include/gmock/gmock.h
-    [nlohmann-json3-dev]=/usr/include/nlohmann/json.hpp
     [clang-format]=/usr/bin/clang-format
     [soong]=/usr/bin/bpfix
-    [util-linux]=/usr/bin/unshare
     [sysvinit-utils]=/bin/pidof
     [strace]=/usr/bin/strace
     [hyperfine]=/usr/bin/hyperfine
