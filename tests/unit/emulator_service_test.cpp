@@ -209,24 +209,6 @@ TEST_F(EmulatorService, ResultFaultFillsOutValuesAndChangesNothing) {
     EXPECT_EQ(static_cast<int32_t>(media), 9);
 }
 
-TEST_F(EmulatorService, StatusFaultAnswersAtOnce) {
-    FaultTable faults;
-    faults["setCellularLogSettings"].status = {FaultStatus::Kind::kException, EX_ILLEGAL_STATE};
-    faults["getCellularLogSettings"].status = {FaultStatus::Kind::kStatusCode, STATUS_DEAD_OBJECT};
-    faults["flushLogs"].status = FaultStatus{};  // "ok": carried out as usual
-    auto svc = service(faults);
-    int32_t result = 12345;
-    svc::CellularLogSettings cellular;
-    cellular.mode = 0;
-    ndk::ScopedAStatus status = svc->setCellularLogSettings(cellular, &result);
-    EXPECT_EQ(status.getExceptionCode(), EX_ILLEGAL_STATE);
-    EXPECT_EQ(result, 12345) << "no result with a failed status";
-    EXPECT_EQ(snapshot().cellular.mode, 1);
-    status = svc->getCellularLogSettings(&cellular, &result);
-    EXPECT_EQ(status.getStatus(), STATUS_DEAD_OBJECT);
-    EXPECT_TRUE(svc->flushLogs().isOk());
-}
-
 TEST_F(EmulatorService, ReservedSlotsAnswerUnknownTransaction) {
     auto svc = service();
     ndk::ScopedAStatus status = svc->reserved04();
