@@ -37,6 +37,8 @@ class LogSink {
         socklen_t len = offsetof(sockaddr_un, sun_path) + 1 + strlen(kHostLogSinkName);
         for (int tries = 0; tries < 600; ++tries) {
             fd_ = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+            int on = 1;
+            setsockopt(fd_, SOL_SOCKET, SO_PASSCRED, &on, sizeof(on));
             if (bind(fd_, reinterpret_cast<sockaddr*>(&addr), len) == 0) return;
             close(fd_);
             fd_ = -1;
@@ -48,14 +50,26 @@ class LogSink {
     }
     bool bound() const { return fd_ >= 0; }
 
-    // The texts of the lines logged so far, one after another.
+    // The texts of the lines this process logged so far, one after another. Other processes
+    // (tests running beside this one) may log to the sink meanwhile: their lines are dropped.
     std::string texts() {
         std::string all;
         pollfd p{fd_, POLLIN, 0};
         while (poll(&p, 1, 100) == 1) {
             char buf[8192];
-            ssize_t got = recv(fd_, buf, sizeof(buf), 0);
+            alignas(cmsghdr) char control[CMSG_SPACE(sizeof(ucred))];
+            iovec iov{buf, sizeof(buf)};
+            msghdr msg{};
+            msg.msg_iov = &iov;
+            msg.msg_iovlen = 1;
+            msg.msg_control = control;
+            msg.msg_controllen = sizeof(control);
+            ssize_t got = recvmsg(fd_, &msg, 0);
             if (got <= 0) break;
+            cmsghdr* cred = CMSG_FIRSTHDR(&msg);
+            if (cred == nullptr || reinterpret_cast<ucred*>(CMSG_DATA(cred))->pid != getpid()) {
+                continue;
+            }
             // The payload is: priority byte, tag, NUL, text, NUL.
             std::string payload(buf, static_cast<size_t>(got));
             size_t text = payload.find('\0') + 1;
