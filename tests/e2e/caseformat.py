@@ -214,9 +214,11 @@ def _directive(case: Case, key: str, value: str, golden_dir: Path, seed: str, wh
         raise CaseError(f"{where}: unknown directive '{key} {value}'")
 
 
-def parse_file(path: Path, golden_dir: Path) -> List[Case]:
+def parse_file(path: Path, golden_dir: Path, text: Optional[str] = None) -> List[Case]:
+    """The cases of a file (or of text, named path)."""
     cases: List[Case] = []
-    lines, numbers = _one_directive_a_line(path.read_text(encoding="utf-8").split("\n"))
+    text = path.read_text(encoding="utf-8") if text is None else text
+    lines, numbers = _one_directive_a_line(text.split("\n"))
     i = 0
     while i < len(lines):
         lineno, stripped = numbers[i], lines[i].strip()
