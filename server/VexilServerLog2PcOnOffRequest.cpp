@@ -18,7 +18,6 @@ VexilServerLog2PcOnOffRequest::VexilServerLog2PcOnOffRequest(const std::string& 
 
 int VexilServerLog2PcOnOffRequest::do_request() {
     const bool enable = cmd_ == "enable";
-    requested_state_ = enable ? 1 : 0;
     const std::string_view line = enable ? kEnableLine : kDisableLine;
     if (connect_and_send(*this, line.data(), line.size()) != 0) {
         return -1;

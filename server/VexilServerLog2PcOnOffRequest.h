@@ -1,7 +1,5 @@
 #pragma once
 
-#include <stdint.h>
-
 #include <string>
 
 #include "server/VexilserverRequest.h"
@@ -18,8 +16,6 @@ class VexilServerLog2PcOnOffRequest : public Request, public VexilserverRequest 
     int do_request() override;
 
   private:
-    // 1 once the enable line was sent, 0 otherwise.
-    int32_t requested_state_ = 0;
     std::string cmd_;
 };
 

@@ -1,5 +1,6 @@
 """Parser of the end-to-end case files (format described in README.md)."""
 
+import codecs
 import json
 import random
 import re
@@ -24,8 +25,7 @@ class Matcher:
     def matches(self, actual: bytes) -> bool:
         if self.regex is None:
             return actual == self.exact
-        text = actual.decode("utf-8", "replace")
-        return re.fullmatch(self.regex, text, re.DOTALL) is not None
+        return re.fullmatch(self.regex, actual.decode("utf-8", "replace"), re.DOTALL) is not None
 
     def describe(self) -> str:
         return f're"{self.regex}"' if self.regex is not None else c_quote(self.exact)
@@ -68,171 +68,54 @@ class Case:
     sandbox: Optional[object] = None  # sandbox.Sandbox when the case uses its directives
 
 
-SERVICE_NAME = "vendor.kest.hardware.vexil_svc.ISysLogControl/default"
 RAW_TARGETS = ("vexilserver", "service", "log")
-
-_ESCAPES = {"n": 10, "t": 9, "r": 13, "0": 0, "\\": 92, '"': 34, "'": 39, "a": 7, "b": 8,
-            "f": 12, "v": 11, "e": 27}
 
 
 def c_quote(data: bytes) -> str:
     """The C-style literal of some bytes, as the case files write them."""
-    out = []
-    for b in data:
-        ch = chr(b)
-        if ch == "\n":
-            out.append("\\n")
-        elif ch == "\t":
-            out.append("\\t")
-        elif ch in "\\\"":
-            out.append("\\" + ch)
-        elif 32 <= b < 127:
-            out.append(ch)
-        else:
-            out.append(f"\\x{b:02x}")
-    return '"' + "".join(out) + '"'
+    special = {10: "\\n", 9: "\\t", 92: "\\\\", 34: '\\"'}
+    return '"' + "".join(special.get(b) or (chr(b) if 32 <= b < 127 else f"\\x{b:02x}")
+                         for b in data) + '"'
 
 
-class _Expr:
-    """Tokenizer and evaluator of byte expressions: terms joined by '+'.
-
-    Terms: "C string", @golden, random(N), each optionally followed by '* N'.
-    """
-
-    def __init__(self, text: str, golden_dir: Path, seed: str, where: str):
-        self.text, self.pos, self.golden_dir, self.seed, self.where = text, 0, golden_dir, seed, where
-
-    def fail(self, msg: str):
-        raise CaseError(f"{self.where}: {msg} in: {self.text}")
-
-    def skip_blanks(self):
-        while self.pos < len(self.text) and self.text[self.pos] in " \t":
-            self.pos += 1
-
-    def at_end(self) -> bool:
-        self.skip_blanks()
-        return self.pos >= len(self.text)
-
-    def peek(self, s: str) -> bool:
-        self.skip_blanks()
-        return self.text.startswith(s, self.pos)
-
-    def string(self) -> bytes:
-        assert self.text[self.pos] == '"'
-        self.pos += 1
-        out = bytearray()
-        while True:
-            if self.pos >= len(self.text):
-                self.fail("unterminated string")
-            ch = self.text[self.pos]
-            self.pos += 1
-            if ch == '"':
-                return bytes(out)
-            if ch != "\\":
-                out += ch.encode("utf-8")
-                continue
-            if self.pos >= len(self.text):
-                self.fail("unterminated escape")
-            esc = self.text[self.pos]
-            self.pos += 1
-            if esc == "x":
-                digits = self.text[self.pos:self.pos + 2]
-                if not re.fullmatch(r"[0-9a-fA-F]{2}", digits):
-                    self.fail("\\x needs two hex digits")
-                out.append(int(digits, 16))
-                self.pos += 2
-            elif esc in "01234567" and re.match(r"[0-7]{3}", self.text[self.pos - 1:]):
-                out.append(int(self.text[self.pos - 1:self.pos + 2], 8) & 0xFF)
-                self.pos += 2
-            elif esc in _ESCAPES:
-                out.append(_ESCAPES[esc])
-            else:
-                self.fail(f"unknown escape \\{esc}")
-
-    def raw_string(self) -> str:
-        """A regex literal: backslashes stay for the regex engine; only \" means a quote."""
-        assert self.text[self.pos] == '"'
-        self.pos += 1
-        out = []
-        while self.pos < len(self.text):
-            ch = self.text[self.pos]
-            if ch == '"':
-                self.pos += 1
-                return "".join(out)
-            if ch == "\\" and self.text.startswith('\\"', self.pos):
-                out.append('"')
-                self.pos += 2
-                continue
-            if ch == "\\" and self.pos + 1 < len(self.text):
-                out.append(self.text[self.pos:self.pos + 2])
-                self.pos += 2
-                continue
-            out.append(ch)
-            self.pos += 1
-        self.fail("unterminated regex")
-
-    def number(self) -> int:
-        self.skip_blanks()
-        m = re.compile(r"\d+").match(self.text, self.pos)
-        if not m:
-            self.fail("number expected")
-        self.pos = m.end()
-        return int(m.group())
-
-    def term(self) -> bytes:
-        self.skip_blanks()
-        if self.peek('"'):
-            value = self.string()
-        elif self.peek("@"):
-            m = re.compile(r"@([\w.-]+)").match(self.text, self.pos)
-            if not m:
-                self.fail("golden file name expected after @")
-            self.pos = m.end()
-            path = self.golden_dir / (m.group(1) + ".txt")
-            if not path.is_file():
-                self.fail(f"no golden file {path}")
-            value = path.read_bytes()
-        elif self.peek("random("):
-            self.pos += len("random(")
-            count = self.number()
-            if not self.peek(")"):
-                self.fail("')' expected")
-            self.pos += 1
-            value = random.Random(self.seed).randbytes(count)
-        else:
-            self.fail("string, @golden or random(N) expected")
-        if self.peek("*"):
-            self.pos += 1
-            value *= self.number()
-        return value
-
-    def bytes(self) -> bytes:
-        value = self.term()
-        while not self.at_end():
-            if not self.peek("+"):
-                self.fail("'+' expected")
-            self.pos += 1
-            value += self.term()
-        return value
+# One term of a byte expression: "C string", @golden or random(N), perhaps followed by '* N'.
+_TERM = re.compile(r'\s*(?:"((?:[^"\\]|\\.)*)"|@([\w.-]+)|random\((\d+)\))(?:\s*\*\s*(\d+))?\s*')
 
 
 def parse_bytes(text: str, golden_dir: Path, seed: str, where: str) -> bytes:
-    return _Expr(text.strip(), golden_dir, seed, where).bytes()
+    """Terms joined by '+'; strings take the C escapes (\\n \\t \\r \\0 \\\\ \\" \\xHH \\NNN)."""
+    text, pos, value = text.strip(), 0, b""
+    while True:
+        m = _TERM.match(text, pos)
+        if not m:
+            raise CaseError(f"{where}: string, @golden or random(N) expected in: {text}")
+        string, golden, count, times = m.groups()
+        if string is not None:
+            term = codecs.escape_decode(string.encode("utf-8"))[0]
+        elif golden is not None:
+            path = golden_dir / (golden + ".txt")
+            if not path.is_file():
+                raise CaseError(f"{where}: no golden file {path}")
+            term = path.read_bytes()
+        else:
+            term = random.Random(seed).randbytes(int(count))
+        value += term * int(times or 1)
+        pos = m.end()
+        if pos == len(text):
+            return value
+        if text[pos] != "+":
+            raise CaseError(f"{where}: '+' expected in: {text}")
+        pos += 1
 
 
 def parse_matcher(text: str, golden_dir: Path, seed: str, where: str) -> Matcher:
     text = text.strip()
-    if text.startswith('re"'):
-        expr = _Expr(text[2:], golden_dir, seed, where)
-        pattern = expr.raw_string()
-        if not expr.at_end():
-            expr.fail("nothing may follow a regex")
-        try:
-            re.compile(pattern)
-        except re.error as e:
-            raise CaseError(f"{where}: bad regex: {e}") from None
-        return Matcher(regex=pattern)
-    return Matcher(exact=parse_bytes(text, golden_dir, seed, where))
+    if not text.startswith('re"'):
+        return Matcher(exact=parse_bytes(text, golden_dir, seed, where))
+    m = re.fullmatch(r're"((?:[^"\\]|\\.)*)"', text)
+    if not m:
+        raise CaseError(f"{where}: one re\"REGEX\" expected in: {text}")
+    return Matcher(regex=_regex(m.group(1).replace('\\"', '"'), where))
 
 
 def _parse_json(text: str, where: str, kind: type):
@@ -245,37 +128,106 @@ def _parse_json(text: str, where: str, kind: type):
     return value
 
 
+def _journal(entries: list) -> list:
+    """Journal entries in full; a call may be written short, as "op" or ["op", arg, ...]."""
+    def full(entry):
+        if isinstance(entry, str):
+            return {"op": entry, "args": []}
+        return {"op": entry[0], "args": entry[1:]} if isinstance(entry, list) else entry
+    return [full(e) for e in entries]
+
+
 def _parse_raw(value: str, golden_dir: Path, seed: str, where: str, line: int) -> RawClient:
     target, _, rest = value.strip().partition(" ")
     if target not in RAW_TARGETS:
         raise CaseError(f"{where}: raw target must be one of {', '.join(RAW_TARGETS)}")
     rest = rest.strip()
     hold = rest.startswith("hold ")
-    if hold:
-        rest = rest[len("hold "):]
-        if target == "log":
-            raise CaseError(f"{where}: a datagram cannot be held")
-    payload_text, arrow, expect_text = rest.partition("=>")
-    payload_text = payload_text.strip()
-    payload = None if payload_text == "connect-leave" else parse_bytes(
+    payload_text, arrow, expect_text = rest[5 if hold else 0:].partition("=>")
+    if (hold or arrow) and target == "log":
+        raise CaseError(f"{where}: a datagram is neither held nor answered")
+    if hold and arrow:
+        raise CaseError(f"{where}: no reply is read from a held connection")
+    payload = None if payload_text.strip() == "connect-leave" else parse_bytes(
         payload_text, golden_dir, seed, where)
     expect = parse_matcher(expect_text, golden_dir, seed, where) if arrow else None
-    if expect is not None and (target == "log" or hold):
-        raise CaseError(f"{where}: no reply is read from a datagram or a held connection")
     return RawClient(target, payload, expect, line, hold)
 
 
-def parse_file(path: Path, golden_dir: Path) -> List[Case]:
+def _one_directive_a_line(lines: List[str]):
+    """Splits the compact form, `case NAME | directive | directive ...` with further `| ...`
+    lines continuing it, into one directive a line; gives the lines and their line numbers."""
+    out, numbers = [], []
+    for number, line in enumerate(lines, 1):
+        stripped = line.strip()
+        cells = [line]
+        if stripped.startswith("case ") or (stripped.startswith("| ") and out):
+            cells = [c.strip() for c in stripped.split(" | ")]
+            cells[0] = cells[0][2:] if cells[0].startswith("| ") else cells[0]
+            cells = [c for c in cells if c != "|"]
+        out += cells
+        numbers += [number] * len(cells)
+    return out, numbers
+
+
+def _directive(case: Case, key: str, value: str, golden_dir: Path, seed: str, where: str,
+               line: int):
+    def matcher():
+        return parse_matcher(value, golden_dir, seed, where)
+    if key == "skip":
+        case.skip = value or "skipped"
+    elif key == "state":
+        _parse_json(value, where, dict)
+        case.state = value
+    elif key == "state-raw":
+        case.state = value
+    elif key in ("reload", "reload-refused"):
+        case.reload = value
+        case.reload_line = b"reloaded\n" if key == "reload" else b"reload failed\n"
+    elif key == "emulator-args":
+        case.emulator_args = shlex.split(value)
+    elif key == "raw":
+        case.raw.append(_parse_raw(value, golden_dir, seed, where, line))
+    elif key == "argv":
+        try:
+            case.argv = shlex.split(value)
+        except ValueError as e:
+            raise CaseError(f"{where}: {e}") from None
+    elif key in ("stdout", "stderr"):
+        setattr(case, key, matcher())
+    elif key in ("exit", "timeout", "emulator-exit"):
+        if not re.fullmatch(r"-?\d+", value):
+            raise CaseError(f"{where}: integer expected, got '{value}'")
+        setattr(case, key.replace("-", "_"), int(value))
+    elif key in ("journal", "journal-has"):
+        setattr(case, key.replace("-", "_"), _journal(_parse_json(value, where, list)))
+    elif key == "journal-lacks":
+        case.journal_lacks.append(_regex(value, where))
+    elif key == "no-call-after":
+        case.no_call_after.append(value)
+    elif key == "log":
+        case.log.append(matcher())
+    elif key == "log-exact":
+        case.log_exact = True
+    elif key == "emulator" and value in ("gone", "alive"):
+        case.emulator_gone = value == "gone"
+    elif key == "emulator-stderr":
+        case.emulator_stderr = matcher()
+    elif key in sandbox.DIRECTIVES:
+        sandbox.parse_directive(case, key, value, golden_dir, seed, where)
+    else:
+        raise CaseError(f"{where}: unknown directive '{key} {value}'")
+
+
+def parse_file(path: Path, golden_dir: Path, text: Optional[str] = None) -> List[Case]:
+    """The cases of a file (or of text, named path)."""
     cases: List[Case] = []
-    names = set()
-    lines = path.read_text(encoding="utf-8").split("\n")
+    text = path.read_text(encoding="utf-8") if text is None else text
+    lines, numbers = _one_directive_a_line(text.split("\n"))
     i = 0
-    case: Optional[Case] = None
     while i < len(lines):
-        lineno = i + 1
-        raw_line = lines[i]
+        lineno, stripped = numbers[i], lines[i].strip()
         i += 1
-        stripped = raw_line.strip()
         if not stripped or stripped.startswith("#"):
             continue
         where = f"{path}:{lineno}"
@@ -283,92 +235,24 @@ def parse_file(path: Path, golden_dir: Path) -> List[Case]:
         value = value.strip()
         if value.startswith("<<"):
             # Here-document: the lines up to the terminator word form the value.
-            terminator = value[2:].strip()
-            if not terminator:
-                raise CaseError(f"{where}: '<<' needs a terminator word")
-            body = []
-            while i < len(lines) and lines[i].strip() != terminator:
-                body.append(lines[i])
-                i += 1
-            if i >= len(lines):
-                raise CaseError(f"{where}: no line '{terminator}' ends the value")
-            i += 1
-            value = "\n".join(body)
+            end = next((j for j in range(i, len(lines)) if lines[j].strip() == value[2:].strip()),
+                       None)
+            if not value[2:].strip() or end is None:
+                raise CaseError(f"{where}: a here-document needs its terminator line")
+            value, i = "\n".join(lines[i:end]), end + 1
         if key == "case":
-            if not re.fullmatch(r"[\w.-]+", value):
-                raise CaseError(f"{where}: case name must be letters, digits, '_', '-', '.'")
-            if value in names:
-                raise CaseError(f"{where}: second case named {value}")
-            names.add(value)
-            case = Case(name=value, path=str(path), line=lineno)
-            cases.append(case)
-            continue
-        if case is None:
+            if not re.fullmatch(r"[\w.-]+", value) or value in (c.name for c in cases):
+                raise CaseError(f"{where}: case name must be new, of letters, digits, '_-.'")
+            cases.append(Case(name=value, path=str(path), line=lineno))
+        elif not cases:
             raise CaseError(f"{where}: '{key}' before the first 'case'")
-        seed = f"{path.name}:{case.name}:{lineno}"
-        if key == "skip":
-            case.skip = value or "skipped"
-        elif key == "state":
-            _parse_json(value, where, dict)
-            case.state = value
-        elif key == "state-raw":
-            case.state = value
-        elif key in ("reload", "reload-refused"):
-            case.reload = value
-            case.reload_line = b"reloaded\n" if key == "reload" else b"reload failed\n"
-        elif key == "emulator-args":
-            case.emulator_args = shlex.split(value)
-        elif key == "raw":
-            case.raw.append(_parse_raw(value, golden_dir, seed, where, lineno))
-        elif key == "argv":
-            try:
-                case.argv = shlex.split(value)
-            except ValueError as e:
-                raise CaseError(f"{where}: {e}") from None
-        elif key == "stdout":
-            case.stdout = parse_matcher(value, golden_dir, seed, where)
-        elif key == "stderr":
-            case.stderr = parse_matcher(value, golden_dir, seed, where)
-        elif key == "exit":
-            case.exit = _int(value, where)
-        elif key == "timeout":
-            case.timeout = float(_int(value, where))
-        elif key == "journal":
-            case.journal = _parse_json(value, where, list)
-        elif key == "journal-has":
-            case.journal_has = _parse_json(value, where, list)
-        elif key == "journal-lacks":
-            case.journal_lacks.append(_regex(value, where))
-        elif key == "no-call-after":
-            case.no_call_after.append(value)
-        elif key == "log":
-            case.log.append(parse_matcher(value, golden_dir, seed, where))
-        elif key == "log-exact":
-            case.log_exact = True
-        elif key == "emulator":
-            if value not in ("gone", "alive"):
-                raise CaseError(f"{where}: 'emulator' takes gone or alive")
-            case.emulator_gone = value == "gone"
-        elif key == "emulator-exit":
-            case.emulator_exit = _int(value, where)
-        elif key == "emulator-stderr":
-            case.emulator_stderr = parse_matcher(value, golden_dir, seed, where)
-        elif key in sandbox.DIRECTIVES:
-            sandbox.parse_directive(case, key, value, golden_dir, seed, where)
         else:
-            raise CaseError(f"{where}: unknown directive '{key}'")
+            seed = f"{path.name}:{cases[-1].name}:{lineno}"
+            _directive(cases[-1], key, value, golden_dir, seed, where, lineno)
     for c in cases:
         if c.argv is None and c.emulator_exit is None and not c.raw and c.skip is None:
-            raise CaseError(f"{c.path}:{c.line}: case {c.name} runs nothing (no argv, raw or "
-                            "emulator-exit)")
+            raise CaseError(f"{c.path}:{c.line}: case {c.name} runs nothing")
     return cases
-
-
-def _int(value: str, where: str) -> int:
-    try:
-        return int(value)
-    except ValueError:
-        raise CaseError(f"{where}: integer expected, got '{value}'") from None
 
 
 def _regex(value: str, where: str) -> str:

@@ -1,29 +1,34 @@
 """Runs one sandbox case (sandbox.py) and reports what happened, as execute.py does.
 
 Started by run_cases.py as `unshare -n unshare --mount --pid --fork --mount-proc python3
-sandbox_execute.py ROOT` with the case as JSON on standard input, so this process is the first of
-a fresh pid namespace; ROOT is an empty directory in /tmp to mount the private root on. It builds a private root (bind mounts of the real one, an empty tmpfs on
-/data, a tmpfs for the case's own files), prepares the working directory, daemon and pre-made
-directories, runs the case through execute.py and adds a listing of /data and of the working
-directory. The umask is 0 so that the modes the tool asks for show unchanged.
+sandbox_execute.py ROOT` with the job pickled on standard input, so this process is the first of a
+fresh pid namespace; ROOT is an empty directory in /tmp to mount the private root on. It builds a
+private root (bind mounts of the real one, an empty tmpfs on /data), prepares the working
+directory, daemon and pre-made directories, runs the case through execute.py and adds a listing of
+/data and of the working directory. The umask is 0 so that the modes the tool asks for show
+unchanged.
+
+Started as `sandbox_execute.py --command TOOL REPEAT ARGS...` it stands in for vexilctl: it runs
+TOOL ARGS REPEAT times in a row (more than one start just after a second begins, so they all fall
+within it) and notes in RUNS what pidof printed just before and the time stamps of every second
+the runs spanned. Standard streams pass through; the exit status is that of the last run.
 """
 
-import base64
-import json
+import math
 import os
+import pickle
 import shutil
 import signal
 import stat
 import subprocess
 import sys
+import time
 
 import execute
 
-HERE = os.path.dirname(os.path.abspath(__file__))
-CASE_DIR = "/case"  # the case's own files, inside the private root
-WORKDIR = CASE_DIR + "/cwd"
-BIN_DIR = CASE_DIR + "/bin"
-RUNS = CASE_DIR + "/runs.json"
+WORKDIR = "/case/cwd"
+BIN_DIR = "/case/bin"
+RUNS = "/case/runs.pickle"
 
 
 def mount(*args: str):
@@ -52,46 +57,35 @@ def enter_private_root(root: str):
     os.mkdir(os.path.join(root, "data"), 0o755)
     mount("-t", "tmpfs", "-o", "mode=0755", "tmpfs", os.path.join(root, "data"))
     os.chroot(root)
-    os.chdir("/")
 
 
 def write_executable(path: str, text: str):
+    os.makedirs(os.path.dirname(path), exist_ok=True)
     with open(path, "w", encoding="utf-8") as f:
         f.write(text)
     os.chmod(path, 0o755)
 
 
-def prepare(box: dict, job: dict) -> list:
+def prepare(box, job: dict) -> list:
     """Sets up the case's files and daemons; returns the extra processes to stop afterwards."""
     os.makedirs(WORKDIR)
-    os.makedirs(BIN_DIR)
-    if box["tools"]:
-        os.makedirs(WORKDIR + "/system/bin")
-    for name, body in box["tools"].items():
+    for name, body in box.tools.items():
         write_executable(f"{WORKDIR}/system/bin/{name}", f"#!/bin/sh\n{body}\n")
-    for path, mode in box["dirs"]:
+    for path, mode in box.dirs.items():
         os.makedirs(path)
         if mode is not None:
             os.chmod(path, mode)
-
-    # The command runs through sandbox_command.py, which notes what it needs to be judged.
-    os.environ.update(VEXIL_SANDBOX_TOOL=job["vexilctl"], VEXIL_SANDBOX_REPEAT=str(box["repeat"]),
-                      VEXIL_SANDBOX_RUNS=RUNS)
-    wrapper = BIN_DIR + "/vexilctl"
-    write_executable(wrapper, f'#!/bin/sh\nexec "{sys.executable}" -S '
-                              f'"{HERE}/sandbox_command.py" "$@"\n')
-    job["vexilctl"] = wrapper
-
-    extra = []
-    if box["daemon"] == "none":
+    write_executable(BIN_DIR + "/vexilctl", f'#!/bin/sh\nexec "{sys.executable}" -S "{__file__}" '
+                     f'--command "{job["vexilctl"]}" {box.repeat} "$@"\n')
+    job["vexilctl"] = BIN_DIR + "/vexilctl"
+    if box.daemon == "none":
         # The emulator still serves and records the log, under a name pidof does not look for.
-        shutil.copy(job["tarnmodem"], BIN_DIR + "/idlemodem")
-        job["tarnmodem"] = BIN_DIR + "/idlemodem"
-    elif box["daemon"] == "two":
+        job["tarnmodem"] = shutil.copy(job["tarnmodem"], BIN_DIR + "/idlemodem")
+    if box.daemon == "two":
         # A second process named tarnmodem beside the emulator.
-        shutil.copy(shutil.which("sleep"), BIN_DIR + "/tarnmodem")
-        extra.append(subprocess.Popen([BIN_DIR + "/tarnmodem", "600"]))
-    return extra
+        return [subprocess.Popen([shutil.copy(shutil.which("sleep"), BIN_DIR + "/tarnmodem"),
+                                  "600"])]
+    return []
 
 
 def listing(top: str, relative: bool) -> dict:
@@ -101,26 +95,39 @@ def listing(top: str, relative: bool) -> dict:
         for name in dirnames + filenames:
             path = os.path.join(dirpath, name)
             st = os.lstat(path)
-            entry = {"mode": stat.S_IMODE(st.st_mode)}
-            if stat.S_ISDIR(st.st_mode):
-                entry["type"] = "directory"
-            elif stat.S_ISREG(st.st_mode):
-                entry["type"] = "file"
+            entry = {"mode": stat.S_IMODE(st.st_mode), "type": "directory" if stat.S_ISDIR(
+                st.st_mode) else "file" if stat.S_ISREG(st.st_mode) else "special file"}
+            if entry["type"] == "file":
                 with open(path, "rb") as f:
-                    entry["content"] = base64.b64encode(f.read()).decode("ascii")
-            else:
-                entry["type"] = "special file"
+                    entry["content"] = f.read()
             entries[os.path.relpath(path, top) if relative else path] = entry
     return entries
 
 
+def command(tool: str, repeat: int, args: list) -> int:
+    if repeat > 1:
+        now = time.time()
+        time.sleep(math.floor(now) + 1.01 - now)
+    pidof = subprocess.run(["pidof", "tarnmodem"], capture_output=True).stdout
+    start = time.time()
+    for _ in range(repeat):
+        status = subprocess.run([tool] + args, stdin=subprocess.DEVNULL).returncode
+    seconds = range(math.floor(start), math.floor(time.time()) + 1)
+    with open(RUNS, "wb") as f:
+        pickle.dump({"pidof": pidof, "stamps": [
+            time.strftime("%Y%m%d-%H%M%S", time.localtime(s)) for s in seconds]}, f)
+    return status if status >= 0 else 128 - status
+
+
 def main() -> int:
-    job = json.load(sys.stdin)
+    if sys.argv[1] == "--command":
+        return command(sys.argv[2], int(sys.argv[3]), sys.argv[4:])
+    job = pickle.load(sys.stdin.buffer)
     for binary in ("tarnmodem", "vexilctl"):
         job[binary] = os.path.abspath(job[binary])  # the working directory changes
     os.umask(0)
     enter_private_root(sys.argv[1])
-    extra = prepare(job["sandbox"], job)
+    extra = prepare(job["case"].sandbox, job)
     os.chdir(WORKDIR)
     try:
         out = execute.execute(job)
@@ -128,13 +135,12 @@ def main() -> int:
         for proc in extra:
             proc.send_signal(signal.SIGTERM)
             proc.wait()
-    runs = None
+    runs = {"pidof": b"", "stamps": []}
     if os.path.exists(RUNS):
-        with open(RUNS, encoding="utf-8") as f:
-            runs = json.load(f)
-    out["sandbox"] = {"data": listing("/data", False), "workdir": listing(WORKDIR, True),
-                      "runs": runs}
-    json.dump(out, sys.stdout)
+        with open(RUNS, "rb") as f:
+            runs = pickle.load(f)
+    out.update(data=listing("/data", False), workdir=listing(WORKDIR, True), runs=runs)
+    pickle.dump(out, sys.stdout.buffer)
     return 0
 
 

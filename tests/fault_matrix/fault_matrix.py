@@ -1,28 +1,24 @@
 #!/usr/bin/env python3
 """The fault matrix: every service-backed command against every kind of service fault, and every
 socket command against every kind of bad vexilserver answer, generated from the tables below and
-run as end-to-end cases (tests/e2e format).
+run as end-to-end cases (tests/e2e format) by the case runner.
 
 Every cell must end with exit status 0, within its time limit, with no sanitizer text on either
 stream, without taking the emulator down (unless the fault kills it), and without a write to the
 service after a failed read. Where a table states an exact output, that is checked too.
-
-Usage:
-    fault_matrix.py --vexilctl BIN --tarnmodem BIN [--jobs N] [--only NAME] [--wrap CMD]
-    fault_matrix.py --print            (writes the generated cases to stdout)
+Options: those of tests/e2e/run_cases.py, or --print to write the generated cases to stdout.
 """
 
-import argparse
 import json
-import os
 import re
-import subprocess
 import sys
-import tempfile
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-RUN_CASES = HERE.parent / "e2e" / "run_cases.py"
+sys.path.insert(0, str(HERE.parent / "e2e"))
+import run_cases  # noqa: E402
+from caseformat import parse_file  # noqa: E402
+
 AIDL = HERE.parent.parent / "service/aidl/vendor/kest/hardware/vexil_svc/ISysLogControl.aidl"
 
 # Service-backed commands: a valid command line, the service operations it makes in order when
@@ -115,36 +111,24 @@ SOCKET_FAULTS = [
 
 # Neither stream may carry a sanitizer's report.
 CLEAN = 're"(?!.*(?:Sanitizer|runtime error)).*"'
-
 # A query that is never answered gives up after 3 s; everything else ends at once.
 TIME_LIMIT = 20
 
 
-def json_text(value) -> str:
-    return json.dumps(value, separators=(", ", ": "))
+def case(argv: str, name: str, state: dict, checks: list) -> str:
+    """One case in the compact form; its name is the command line's words joined by '_'."""
+    stem = "_".join(re.sub(r"\W", "", word) for word in argv.split())
+    return " | ".join([f"case {stem}.{name}", f"state {json.dumps(state)}", f"argv {argv}",
+                       f"timeout {TIME_LIMIT}"] + checks)
 
 
-def c_string(text: str) -> str:
-    return '"' + text.encode("unicode_escape").decode().replace('"', '\\"') + '"'
+def streams(stdout, stderr) -> list:
+    """Exact streams where given, else streams free of sanitizer reports."""
+    return [f"stdout {CLEAN if stdout is None else json.dumps(stdout)}",
+            f"stderr {CLEAN if stderr is None else json.dumps(stderr)}"]
 
 
-def case(name: str, argv: str, state: dict, lines: list) -> str:
-    head = [f"case {name}", f"state {json_text(state)}", f"argv {argv}", f"timeout {TIME_LIMIT}"]
-    return "\n".join(head + lines) + "\n"
-
-
-def case_stem(argv: str) -> str:
-    """The command line as a case name: words joined by '_', other characters dropped."""
-    return "_".join("".join(c for c in word if c.isalnum()) for word in argv.split())
-
-
-def operations_without_int() -> set:
-    """Service operations that return nothing or a string, read from the AIDL interface."""
-    text = AIDL.read_text(encoding="utf-8")
-    return set(re.findall(r"^\s*(?:void|String)\s+(\w+)\(", text, re.MULTILINE))
-
-
-def call_fault_lines(op: str, fault: str, ops: list, write_after: dict) -> list:
+def call_fault_checks(op: str, fault: str, ops: list, write_after: dict) -> list:
     """What a cell with this call fault checks beyond the clean streams."""
     if fault == "dies":
         return ['log "onBinderDied: Enter onBinderDied\\n"', f"no-call-after {op}"]
@@ -152,28 +136,23 @@ def call_fault_lines(op: str, fault: str, ops: list, write_after: dict) -> list:
         return [f"no-call-after {op}"]
     if fault in write_after.get(op, ()):
         return [f"no-call-after {ops[-1]}"]
-    # Nothing is written after a failed read.
-    return ["journal-lacks set.*"]
+    return ["journal-lacks set.*"]  # nothing is written after a failed read
 
 
 def service_cases() -> list:
+    # Operations that return nothing or a string take no result fault.
+    without_int = set(re.findall(r"^\s*(?:void|String)\s+(\w+)\(", AIDL.read_text(), re.M))
     cases = []
-    without_int = operations_without_int()
     for argv, ops, exceptions in SERVICE_COMMANDS:
-        stem = case_stem(argv)
-        stdout = exceptions.get("no_service_stdout", "")
         for fault, state in SERVICE_WIDE_FAULTS:
-            cases.append(case(f"{stem}.{fault}", argv, state,
-                              [f"stdout {c_string(stdout)}", f"stderr {c_string(NO_SERVICE_STDERR)}",
-                               "journal []"]))
+            cases.append(case(argv, fault, state, streams(
+                exceptions.get("no_service_stdout", ""), NO_SERVICE_STDERR) + ["journal []"]))
         for op in ops:
             for fault, fault_object in CALL_FAULTS:
-                if "result" in fault_object and op in without_int:
-                    continue
-                lines = [f"stdout {CLEAN}", f"stderr {CLEAN}"]
-                lines += call_fault_lines(op, fault, ops, exceptions.get("write_after", {}))
-                cases.append(case(f"{stem}.{op}.{fault}", argv, {"faults": {op: fault_object}},
-                                  lines))
+                if "result" not in fault_object or op not in without_int:
+                    cases.append(case(argv, f"{op}.{fault}", {"faults": {op: fault_object}},
+                                      streams(None, None) + call_fault_checks(
+                                          op, fault, ops, exceptions.get("write_after", {}))))
     return cases
 
 
@@ -183,49 +162,19 @@ def socket_cases() -> list:
         for fault, reply, queries_only, stderr in SOCKET_FAULTS:
             if queries_only and not is_query:
                 continue
-            if reply == "down":
-                state = {"vexilserver": {"up": False}}
-            else:
-                state = {"vexilserver": {"replies": {line: reply}}}
-            if stderr is None:
-                lines = [f"stdout {CLEAN}", f"stderr {CLEAN}"]
-            else:
-                lines = ['stdout ""', f"stderr {c_string(stderr)}"]
-            cases.append(case(f"{case_stem(argv)}.{fault}", argv, state, lines))
+            state = {"vexilserver": {"up": False} if reply == "down" else {
+                "replies": {line: reply}}}
+            cases.append(case(argv, fault, state, streams(None if stderr is None else "", stderr)))
     return cases
 
 
-def generate() -> str:
-    header = "# Generated by tests/fault_matrix/fault_matrix.py; do not edit.\n\n"
-    return header + "\n".join(service_cases() + socket_cases())
-
-
 def main() -> int:
-    parser = argparse.ArgumentParser()
-    parser.add_argument("--vexilctl")
-    parser.add_argument("--tarnmodem")
-    parser.add_argument("--jobs", default="2")
-    parser.add_argument("--only")
-    parser.add_argument("--wrap", help="a command line to run vexilctl under")
-    parser.add_argument("--print", action="store_true", help="only write the cases to stdout")
-    args = parser.parse_args()
-    text = generate()
-    if args.print:
+    text = "\n".join(service_cases() + socket_cases()) + "\n"
+    if sys.argv[1:] == ["--print"]:
         sys.stdout.write(text)
         return 0
-    if not args.vexilctl or not args.tarnmodem:
-        parser.error("--vexilctl and --tarnmodem are needed to run the matrix")
-    with tempfile.TemporaryDirectory(prefix="vexil-fault-matrix-") as tmp:
-        path = os.path.join(tmp, "fault_matrix.case")
-        with open(path, "w", encoding="utf-8") as f:
-            f.write(text)
-        command = [sys.executable, str(RUN_CASES), "--vexilctl", args.vexilctl,
-                   "--tarnmodem", args.tarnmodem, "--jobs", args.jobs]
-        if args.only:
-            command += ["--only", args.only]
-        if args.wrap:
-            command += ["--wrap", args.wrap]
-        return subprocess.run(command + [path]).returncode
+    return run_cases.run(parse_file(Path("fault_matrix"), HERE, text),
+                         run_cases.parser().parse_args())
 
 
 if __name__ == "__main__":
