@@ -104,12 +104,51 @@ compile() {
 }
 show_log() { grep -v '^checkpolicy:  \(loading\|policy configuration loaded\|writing\)' "$1" | sed 's/^/  /' >&2; }
 
-board=("$policy_dir" "$daemon")
-for variant in user userdebug; do
-    out=$work/$variant
-    conf "$out" $variant $sep/public $sep/private $sep/vendor "${board[@]}"
-    # The neverallow check; then the policy the device loads, compiled as the tree compiles
-    # precompiled_sepolicy (through CIL, neverallow rules left to the check), for the tests.
+# The build-time policy tests read file_contexts and the compiled policy through libsepolwrap.
+tests=$work/tests
+mkdir -p "$tests" "$work/include/android-base"
+cp $sep/tests/*.py "$tests/"
+# sepol_wrap.cpp includes two libbase headers it does not use.
+touch "$work/include/android-base/file.h" "$work/include/android-base/strings.h"
+if [ ! -f "$tests/libsepolwrap.so" ] || [ $sep/tests/sepol_wrap.cpp -nt "$tests/libsepolwrap.so" ]; then
+    g++ -std=gnu++17 -O1 -shared -fPIC -include memory -I$sep/tests/include -I"$work/include" \
+        -o "$tests/libsepolwrap.so" $sep/tests/sepol_wrap.cpp -l:libsepol.a
+fi
+m4 --fatal-warnings -s $sep/private/file_contexts >"$work/plat_file_contexts"
+m4 --fatal-warnings -s $sep/vendor/file_contexts "$policy_dir/file_contexts" \
+    "$daemon/file_contexts" >"$work/vendor_file_contexts"
+fc=(-f "$work/plat_file_contexts" -f "$work/vendor_file_contexts")
+# The tests match every file_contexts path against prefixes by compiling each of its leading
+# parts as a regular expression, most of them several times over and many invalid: run them with
+# re.compile remembering its answers, which takes their time from about 20 s to a few.
+cat >"$tests/run.py" <<'EOF'
+import re, runpy, sys
+
+compiled = {}
+compile_uncached = re.compile
+
+def compile_cached(pattern, flags=0):
+    key = (pattern, flags)
+    if key not in compiled:
+        try:
+            compiled[key] = compile_uncached(pattern, flags)
+        except re.error as error:
+            compiled[key] = error
+    if isinstance(compiled[key], re.error):
+        raise compiled[key]
+    return compiled[key]
+
+re.compile = compile_cached
+sys.argv = sys.argv[1:]
+runpy.run_path(sys.argv[0], run_name="__main__")
+EOF
+
+# check_variant VARIANT: the whole policy of one build variant: the neverallow check; then the
+# policy the device loads, compiled as the tree compiles precompiled_sepolicy (through CIL,
+# neverallow rules left to the check), and the policy tests on it.
+check_variant() {
+    local variant=$1 out=$work/$1 result
+    conf "$out" "$variant" $sep/public $sep/private $sep/vendor "$policy_dir" "$daemon"
     if compile "$out" -M -c 30 -o "$out/checked"; then
         say "$variant policy builds, neverallow rules hold"
     else
@@ -117,17 +156,40 @@ for variant in user userdebug; do
         show_log "$out/log"
     fi
     rm -f "$out/policy"
-    if compile "$out" -C -M -c 30 -o "$out/policy.cil" &&
+    if ! { compile "$out" -C -M -c 30 -o "$out/policy.cil" &&
         cat $sep/private/technical_debt.cil >>"$out/policy.cil" &&
-        secilc -m -M true -G -N -c 30 -o "$out/policy" -f /dev/null "$out/policy.cil" >>"$out/log" 2>&1; then
-        :
-    else
+        secilc -m -M true -G -N -c 30 -o "$out/policy" -f /dev/null "$out/policy.cil" \
+            >>"$out/log" 2>&1; }; then
         fail "$variant policy does not compile:"
         show_log "$out/log"
+        return 1
     fi
+    if result=$(python3 "$tests/run.py" "$tests/sepolicy_tests.py" "${fc[@]}" -p "$out/policy" 2>&1); then
+        say "$variant: sepolicy_tests pass"
+    else
+        fail "$variant: sepolicy_tests:"
+        sed 's/^/  /' <<<"$result" >&2
+    fi
+    # TrebleCompatMapping needs the previous releases' policies (prebuilts/api), which a vendor
+    # policy does not change.
+    if result=$(python3 "$tests/run.py" "$tests/treble_sepolicy_tests.py" "${fc[@]}" -p "$out/policy" \
+        -t CoredomainViolations -t CoreDatatypeViolations -t ViolatorAttributes 2>&1); then
+        say "$variant: treble_sepolicy_tests pass"
+    else
+        fail "$variant: treble_sepolicy_tests:"
+        sed 's/^/  /' <<<"$result" >&2
+    fi
+    return $status
+}
+# The two variants in parallel, each reporting into a file; the other checks meanwhile.
+pids=()
+for variant in user userdebug; do
+    check_variant $variant >"$work/$variant.report" 2>&1 &
+    pids+=($!)
 done
+
 out=$work/vendor
-conf "$out" user $sep/public $sep/reqd_mask $sep/vendor "${board[@]}"
+conf "$out" user $sep/public $sep/reqd_mask $sep/vendor "$policy_dir" "$daemon"
 if compile "$out" -C -M -c 30 -o "$out/policy.cil"; then
     say "vendor policy builds against the public policy alone"
 else
@@ -150,34 +212,13 @@ else
     say "a rule that breaks a neverallow stops the build"
 fi
 
-# The build-time policy tests read file_contexts and the compiled policy through libsepolwrap.
-tests=$work/tests
-mkdir -p "$tests" "$work/include/android-base"
-cp $sep/tests/*.py "$tests/"
-# sepol_wrap.cpp includes two libbase headers it does not use.
-touch "$work/include/android-base/file.h" "$work/include/android-base/strings.h"
-if [ ! -f "$tests/libsepolwrap.so" ] || [ $sep/tests/sepol_wrap.cpp -nt "$tests/libsepolwrap.so" ]; then
-    g++ -std=gnu++17 -O1 -shared -fPIC -include memory -I$sep/tests/include -I"$work/include" \
-        -o "$tests/libsepolwrap.so" $sep/tests/sepol_wrap.cpp -l:libsepol.a
-fi
-m4 --fatal-warnings -s $sep/private/file_contexts >"$work/plat_file_contexts"
-m4 --fatal-warnings -s $sep/vendor/file_contexts "$policy_dir/file_contexts" \
-    "$daemon/file_contexts" >"$work/vendor_file_contexts"
-fc=(-f "$work/plat_file_contexts" -f "$work/vendor_file_contexts")
-for variant in user userdebug; do
-    [ -f "$work/$variant/policy" ] || continue
-    if out=$(python3 "$tests/sepolicy_tests.py" "${fc[@]}" -p "$work/$variant/policy" 2>&1); then
-        say "$variant: sepolicy_tests pass"
+for i in 0 1; do
+    variant=$([ $i = 0 ] && echo user || echo userdebug)
+    if wait "${pids[$i]}"; then
+        cat "$work/$variant.report"
     else
-        fail "$variant: sepolicy_tests:"
-        sed 's/^/  /' <<<"$out" >&2
-    fi
-    if out=$(python3 "$tests/treble_sepolicy_tests.py" "${fc[@]}" -p "$work/$variant/policy" \
-        -t CoredomainViolations -t CoreDatatypeViolations -t ViolatorAttributes 2>&1); then
-        say "$variant: treble_sepolicy_tests pass"
-    else
-        fail "$variant: treble_sepolicy_tests:"
-        sed 's/^/  /' <<<"$out" >&2
+        cat "$work/$variant.report" >&2
+        status=1
     fi
 done
 
