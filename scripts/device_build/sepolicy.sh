@@ -18,8 +18,9 @@
 # build/device/sepolicy/. Exits 1 when anything fails, 2 when the tree is missing.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
-AOSP_SRC=$(cd "${AOSP_SRC:-$root/../shared/aosp-a13}" 2>/dev/null && pwd) || {
-    echo "device_build/sepolicy: no Android tree at ${AOSP_SRC:-$root/../shared/aosp-a13}" >&2
+tree=${AOSP_SRC:-$root/../shared/aosp-a13}
+AOSP_SRC=$(cd "$tree" 2>/dev/null && pwd) || {
+    echo "device_build/sepolicy: no Android tree at $tree" >&2
     exit 2
 }
 policy_dir=$(cd "${1:-$root/sepolicy}" && pwd)
@@ -102,7 +103,8 @@ compile() {
     shift
     checkpolicy "$@" "$out/policy.conf" >"$out/log" 2>&1
 }
-show_log() { grep -v '^checkpolicy:  \(loading\|policy configuration loaded\|writing\)' "$1" | sed 's/^/  /' >&2; }
+indent() { sed 's/^/  /' >&2; }
+show_log() { grep -v '^checkpolicy:  \(loading\|policy configuration loaded\|writing\)' "$1" | indent || true; }
 
 # The build-time policy tests read file_contexts and the compiled policy through libsepolwrap.
 tests=$work/tests
@@ -168,7 +170,7 @@ check_variant() {
         say "$variant: sepolicy_tests pass"
     else
         fail "$variant: sepolicy_tests:"
-        sed 's/^/  /' <<<"$result" >&2
+        indent <<<"$result"
     fi
     # TrebleCompatMapping needs the previous releases' policies (prebuilts/api), which a vendor
     # policy does not change.
@@ -177,16 +179,18 @@ check_variant() {
         say "$variant: treble_sepolicy_tests pass"
     else
         fail "$variant: treble_sepolicy_tests:"
-        sed 's/^/  /' <<<"$result" >&2
+        indent <<<"$result"
     fi
     return $status
 }
 # The two variants in parallel, each reporting into a file; the other checks meanwhile.
+variants=(user userdebug)
 pids=()
-for variant in user userdebug; do
-    check_variant $variant >"$work/$variant.report" 2>&1 &
+for variant in "${variants[@]}"; do
+    check_variant "$variant" >"$work/$variant.report" 2>&1 &
     pids+=($!)
 done
+trap 'kill "${pids[@]}" 2>/dev/null || true' EXIT
 
 out=$work/vendor
 conf "$out" user $sep/public $sep/reqd_mask $sep/vendor "$policy_dir" "$daemon"
@@ -212,15 +216,15 @@ else
     say "a rule that breaks a neverallow stops the build"
 fi
 
-for i in 0 1; do
-    variant=$([ $i = 0 ] && echo user || echo userdebug)
+for i in "${!variants[@]}"; do
     if wait "${pids[$i]}"; then
-        cat "$work/$variant.report"
+        cat "$work/${variants[$i]}.report"
     else
-        cat "$work/$variant.report" >&2
+        cat "$work/${variants[$i]}.report" >&2
         status=1
     fi
 done
+pids=()
 
 # Every type that sepolicy/'s contexts files name is declared in the policy.
 if [ -f "$work/user/policy.conf" ]; then
