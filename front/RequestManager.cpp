@@ -67,9 +67,6 @@ const WordList RequestManager::storage_words(kStorageWords);
 const WordList RequestManager::arg_words(kArgWords);
 const WordList RequestManager::logdest_words(kLogdestWords);
 
-RequestManager::RequestManager() = default;
-RequestManager::~RequestManager() = default;
-
 const RequestManager::Command* RequestManager::find_command(const char* word) {
     for (const Command& command : commands) {
         if (strcmp(command.word, word) == 0) return &command;

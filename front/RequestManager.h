@@ -28,8 +28,8 @@ class RequestManager {
         Handler handler;
     };
 
-    RequestManager();
-    ~RequestManager();
+    RequestManager() = default;
+    ~RequestManager() = default;
 
     // Returns 1 when the command line is refused here, 0 once a handler ran.
     int process_command(int argc, char** argv);
