@@ -7,10 +7,11 @@
 # (`--footprint-only`, `--emulator PATH`, see its --help).
 #
 # Builds the release configuration (preset `release`), starts the host emulator tarnmodem in a
-# network namespace of its own, and prints one table: ratios of median whole-process wall times
-# (hyperfine, interleaved in rounds; the ratio is the median of the rounds' ratios), the stripped
-# size of vexilctl, its peak resident memory for `state modem`, and the emulator's resident memory
-# before and after many commands. Exits 1 when a line misses its budget.
+# network namespace of its own, and prints one table: whole-process instruction counts (callgrind)
+# and, beside them, ratios of median whole-process wall times (hyperfine, interleaved in rounds;
+# the ratio is the median of the rounds' ratios), the stripped size of vexilctl, its peak resident
+# memory for `state modem`, and the emulator's resident memory before and after many commands.
+# Exits 1 when a line misses its budget; the budgets are on instructions, not on times.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$(pwd)

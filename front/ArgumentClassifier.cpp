@@ -10,10 +10,6 @@
 namespace tarn {
 namespace {
 
-bool contains(const std::vector<std::string>& words, const char* word) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
 bool is_one_of(const char* word, std::initializer_list<const char*> names) {
     return std::any_of(names.begin(), names.end(),
                        [word](const char* name) { return strcmp(word, name) == 0; });
@@ -27,13 +23,13 @@ void report_missing_argument_alone() {
 int classify_words(int argc, char** argv, const ArgumentWords& words, Options& opts) {
     for (int i = 2; i < argc; ++i) {
         const char* word = argv[i];
-        if (contains(words.subsys, word)) {
+        if (words.subsys.contains(word)) {
             opts.subsystems.emplace_back(word);
-        } else if (contains(words.storage, word)) {
+        } else if (words.storage.contains(word)) {
             opts.storage = word;
-        } else if (contains(words.arg, word)) {
+        } else if (words.arg.contains(word)) {
             opts.cmd = word;
-        } else if (contains(words.logdest, word)) {
+        } else if (words.logdest.contains(word)) {
             opts.logdest = word;
             break;  // whatever follows the destination is left to the handler, unchecked
         } else if (is_number(word)) {
@@ -48,6 +44,11 @@ int classify_words(int argc, char** argv, const ArgumentWords& words, Options& o
 }
 
 }  // namespace
+
+bool WordList::contains(const char* word) const {
+    return std::any_of(words_, words_ + count_,
+                       [word](const char* listed) { return strcmp(word, listed) == 0; });
+}
 
 void report_missing_argument() {
     report_missing_argument_alone();
@@ -74,7 +75,7 @@ int classify_arguments(int argc, char** argv, const ArgumentWords& words, Option
         return 0;
     }
     if (is_one_of(command, {"setvexil", "setcpreset"})) {
-        if (argc != 4 || !contains(words.subsys, argv[2])) {
+        if (argc != 4 || !words.subsys.contains(argv[2])) {
             report_missing_argument();
             return 1;
         }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include <cstddef>
 
 namespace tarn {
 
@@ -27,17 +26,27 @@ inline constexpr const char* kArgWords[] = {"enable",
                                             "bufcommitthreshold"};
 inline constexpr const char* kLogdestWords[] = {"off", "stor", "wifi", "usb"};
 
-// A view of the four word lists the classifier works with.
-struct ArgumentWords {
-    const std::vector<std::string>& subsys;
-    const std::vector<std::string>& storage;
-    const std::vector<std::string>& arg;
-    const std::vector<std::string>& logdest;
+// One of those lists, as a view of its constant array.
+class WordList {
+  public:
+    template <size_t N>
+    constexpr WordList(const char* const (&words)[N])  // NOLINT(google-explicit-constructor)
+        : words_(words), count_(N) {}
+
+    // True when the list holds the word (same length, same bytes).
+    bool contains(const char* word) const;
+
+  private:
+    const char* const* words_;
+    size_t count_;
 };
 
-template <size_t N>
-std::vector<std::string> word_list(const char* const (&words)[N]) {
-    return std::vector<std::string>(words, words + N);
-}
+// The four word lists the classifier works with.
+struct ArgumentWords {
+    WordList subsys;
+    WordList storage;
+    WordList arg;
+    WordList logdest;
+};
 
 }  // namespace tarn

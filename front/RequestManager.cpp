@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "front/ArgumentClassifier.h"
 #include "front/ArgumentWords.h"
@@ -10,65 +11,68 @@
 namespace tarn {
 namespace {
 
-using HandlerWithOptions = std::shared_ptr<Request> (RequestManager::*)(std::shared_ptr<Options>);
-using HandlerWithoutOptions = std::shared_ptr<Request> (RequestManager::*)();
-
-RequestManager::Handler bind_handler(RequestManager* manager, HandlerWithOptions handler) {
-    return std::bind(handler, manager, std::placeholders::_1);
+constexpr RequestManager::Handler bind_handler(RequestManager::HandlerWithOptions handler) {
+    return {handler, nullptr};
 }
 
-// The bound call drops the Options it is given.
-RequestManager::Handler bind_handler(RequestManager* manager, HandlerWithoutOptions handler) {
-    return std::bind(handler, manager);
+// The call drops the Options it is given.
+constexpr RequestManager::Handler bind_handler(RequestManager::HandlerWithoutOptions handler) {
+    return {nullptr, handler};
 }
 
 }  // namespace
 
-RequestManager::RequestManager()
-    : commands{
-          {"man", bind_handler(this, &RequestManager::proc_manual)},
-          {"clear", bind_handler(this, &RequestManager::proc_clear)},
-          {"collect", bind_handler(this, &RequestManager::proc_collect)},
-          {"flush", bind_handler(this, &RequestManager::proc_flush)},
-          {"crash", bind_handler(this, &RequestManager::proc_crash)},
-          {"state", bind_handler(this, &RequestManager::proc_query_state)},
-          {"setlog", bind_handler(this, &RequestManager::proc_set_log)},
-          {"setcomp", bind_handler(this, &RequestManager::proc_set_comp)},
-          {"getcomp", bind_handler(this, &RequestManager::proc_get_comp_state)},
-          {"getcpcapacity", bind_handler(this, &RequestManager::proc_get_cp_max_size)},
-          {"setcpcapacity", bind_handler(this, &RequestManager::proc_set_cp_max_size)},
-          {"getfilesize", bind_handler(this, &RequestManager::proc_get_log_file_size)},
-          {"setfilesize", bind_handler(this, &RequestManager::proc_set_file_size)},
-          {"getstor", bind_handler(this, &RequestManager::proc_get_stor)},
-          {"setstor", bind_handler(this, &RequestManager::proc_set_preferred_storage)},
-          {"setlogpath", bind_handler(this, &RequestManager::proc_set_log_parent_path)},
-          {"getlogpath", bind_handler(this, &RequestManager::proc_get_log_parent_path)},
-          {"setoverwrite", bind_handler(this, &RequestManager::proc_overwrite)},
-          {"getoverwrite", bind_handler(this, &RequestManager::proc_get_overwrite_state)},
-          {"setfilenodel", bind_handler(this, &RequestManager::proc_set_file_nodel)},
-          {"getfilenodel", bind_handler(this, &RequestManager::proc_get_file_nodel)},
-          {"setcpreset", bind_handler(this, &RequestManager::proc_set_cp_reset)},
-          {"getcpreset", bind_handler(this, &RequestManager::proc_get_cp_reset)},
-          {"getcprunstate", bind_handler(this, &RequestManager::proc_get_cp_run_state)},
-          {"setminidump", bind_handler(this, &RequestManager::proc_set_md)},
-          {"getminidump", bind_handler(this, &RequestManager::proc_get_md)},
-          {"setiolimit", bind_handler(this, &RequestManager::proc_set_io_limit)},
-          {"getiolimit", bind_handler(this, &RequestManager::proc_get_io_limit)},
-          {"setmipilog", bind_handler(this, &RequestManager::proc_set_mipilog)},
-          {"getmipilog", bind_handler(this, &RequestManager::proc_get_mipilog)},
-          {"setlogpscfg", bind_handler(this, &RequestManager::proc_set_log_pscfg)},
-          {"setvexil", bind_handler(this, &RequestManager::proc_set_vexil_state)},
-          {"getallvexilstate", bind_handler(this, &RequestManager::proc_get_all_vexil_state)},
-          {"setvexiltopc", bind_handler(this, &RequestManager::proc_set_vexil_to_pc)},
-          {"getvexiltopcstate", bind_handler(this, &RequestManager::proc_get_vexil_to_pc_state)},
-          {"dbg", bind_handler(this, &RequestManager::proc_tarn_debug)},
-      },
-      subsys_words(word_list(kSubsysWords)),
-      storage_words(word_list(kStorageWords)),
-      arg_words(word_list(kArgWords)),
-      logdest_words(word_list(kLogdestWords)) {}
+// Constant data: laid out by the compiler, nothing runs at start-up to build it.
+const RequestManager::Command RequestManager::commands[36] = {
+    {"man", bind_handler(&RequestManager::proc_manual)},
+    {"clear", bind_handler(&RequestManager::proc_clear)},
+    {"collect", bind_handler(&RequestManager::proc_collect)},
+    {"flush", bind_handler(&RequestManager::proc_flush)},
+    {"crash", bind_handler(&RequestManager::proc_crash)},
+    {"state", bind_handler(&RequestManager::proc_query_state)},
+    {"setlog", bind_handler(&RequestManager::proc_set_log)},
+    {"setcomp", bind_handler(&RequestManager::proc_set_comp)},
+    {"getcomp", bind_handler(&RequestManager::proc_get_comp_state)},
+    {"getcpcapacity", bind_handler(&RequestManager::proc_get_cp_max_size)},
+    {"setcpcapacity", bind_handler(&RequestManager::proc_set_cp_max_size)},
+    {"getfilesize", bind_handler(&RequestManager::proc_get_log_file_size)},
+    {"setfilesize", bind_handler(&RequestManager::proc_set_file_size)},
+    {"getstor", bind_handler(&RequestManager::proc_get_stor)},
+    {"setstor", bind_handler(&RequestManager::proc_set_preferred_storage)},
+    {"setlogpath", bind_handler(&RequestManager::proc_set_log_parent_path)},
+    {"getlogpath", bind_handler(&RequestManager::proc_get_log_parent_path)},
+    {"setoverwrite", bind_handler(&RequestManager::proc_overwrite)},
+    {"getoverwrite", bind_handler(&RequestManager::proc_get_overwrite_state)},
+    {"setfilenodel", bind_handler(&RequestManager::proc_set_file_nodel)},
+    {"getfilenodel", bind_handler(&RequestManager::proc_get_file_nodel)},
+    {"setcpreset", bind_handler(&RequestManager::proc_set_cp_reset)},
+    {"getcpreset", bind_handler(&RequestManager::proc_get_cp_reset)},
+    {"getcprunstate", bind_handler(&RequestManager::proc_get_cp_run_state)},
+    {"setminidump", bind_handler(&RequestManager::proc_set_md)},
+    {"getminidump", bind_handler(&RequestManager::proc_get_md)},
+    {"setiolimit", bind_handler(&RequestManager::proc_set_io_limit)},
+    {"getiolimit", bind_handler(&RequestManager::proc_get_io_limit)},
+    {"setmipilog", bind_handler(&RequestManager::proc_set_mipilog)},
+    {"getmipilog", bind_handler(&RequestManager::proc_get_mipilog)},
+    {"setlogpscfg", bind_handler(&RequestManager::proc_set_log_pscfg)},
+    {"setvexil", bind_handler(&RequestManager::proc_set_vexil_state)},
+    {"getallvexilstate", bind_handler(&RequestManager::proc_get_all_vexil_state)},
+    {"setvexiltopc", bind_handler(&RequestManager::proc_set_vexil_to_pc)},
+    {"getvexiltopcstate", bind_handler(&RequestManager::proc_get_vexil_to_pc_state)},
+    {"dbg", bind_handler(&RequestManager::proc_tarn_debug)},
+};
 
-RequestManager::~RequestManager() = default;
+const WordList RequestManager::subsys_words(kSubsysWords);
+const WordList RequestManager::storage_words(kStorageWords);
+const WordList RequestManager::arg_words(kArgWords);
+const WordList RequestManager::logdest_words(kLogdestWords);
+
+const RequestManager::Command* RequestManager::find_command(const char* word) {
+    for (const Command& command : commands) {
+        if (strcmp(command.word, word) == 0) return &command;
+    }
+    return nullptr;
+}
 
 int RequestManager::process_command(int argc, char** argv) {
     std::shared_ptr<Request> request;
@@ -86,8 +90,8 @@ int RequestManager::prepare_request(int argc, char** argv, std::shared_ptr<Reque
         report_missing_argument();
         return 1;
     }
-    auto command = commands.find(argv[1]);
-    if (command == commands.end()) {
+    const Command* command = find_command(argv[1]);
+    if (command == nullptr) {
         usage();
         return 1;
     }
@@ -96,7 +100,9 @@ int RequestManager::prepare_request(int argc, char** argv, std::shared_ptr<Reque
     const ArgumentWords words{subsys_words, storage_words, arg_words, logdest_words};
     if (classify_arguments(argc, argv, words, *opts) != 0) return 1;
 
-    *request = command->second(opts);
+    const Handler& handler = command->handler;
+    *request = handler.with_options != nullptr ? (this->*handler.with_options)(std::move(opts))
+                                               : (this->*handler.without_options)();
     return 0;
 }
 

@@ -1,24 +1,35 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <memory>
-#include <string>
-#include <vector>
 
+#include "front/ArgumentWords.h"
 #include "front/Options.h"
 #include "service/Request.h"
 
 namespace tarn {
 
-// Owns the command table and the recognised argument words, classifies the command line into
-// Options and runs the one request that the command's handler builds.
+// Holds the command table and the recognised argument words, classifies the command line into
+// Options and runs the one request that the command's handler builds. The table and the word lists
+// are constant data, shared by every instance: a run builds nothing before it looks up its command.
 class RequestManager {
   public:
-    using Handler = std::function<std::shared_ptr<Request>(std::shared_ptr<Options>)>;
+    using HandlerWithOptions = std::shared_ptr<Request> (RequestManager::*)(std::shared_ptr<Options>);
+    using HandlerWithoutOptions = std::shared_ptr<Request> (RequestManager::*)();
 
-    RequestManager();
-    ~RequestManager();
+    // A handler, bound with the Options or without them (exactly one of the two is set).
+    struct Handler {
+        HandlerWithOptions with_options;
+        HandlerWithoutOptions without_options;
+    };
+
+    // One entry of the command table.
+    struct Command {
+        const char* word;
+        Handler handler;
+    };
+
+    RequestManager() = default;
+    ~RequestManager() = default;
 
     // Returns 1 when the command line is refused here, 0 once a handler ran.
     int process_command(int argc, char** argv);
@@ -70,15 +81,18 @@ class RequestManager {
     std::shared_ptr<Request> proc_tarn_debug(std::shared_ptr<Options> opts);
 
   private:
-    // The command table binds this instance.
     RequestManager(const RequestManager&) = delete;
     RequestManager& operator=(const RequestManager&) = delete;
 
-    std::map<std::string, Handler> commands;
-    std::vector<std::string> subsys_words;
-    std::vector<std::string> storage_words;
-    std::vector<std::string> arg_words;
-    std::vector<std::string> logdest_words;
+    // The entry for the command word, or nullptr. Words match exactly.
+    static const Command* find_command(const char* word);
+
+    // The 36 commands, each word with its handler.
+    static const Command commands[36];
+    static const WordList subsys_words;
+    static const WordList storage_words;
+    static const WordList arg_words;
+    static const WordList logdest_words;
 };
 
 // Ends the process with the given status after a handler has refused its arguments.

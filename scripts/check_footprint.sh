@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Footprint budget of the release vexilctl: stripped size and peak resident memory for
-# `state modem` against the emulator of the default build. The timing ratios stay in
-# bench/run.sh: on a shared, noisy machine they are no pass/fail test.
+# Footprint budget of the release vexilctl: whole-process instruction counts (callgrind) of
+# `getallvexilstate` and `state modem` against the C client that sends the same log line, and of
+# an argument error against /bin/true; stripped size; peak resident memory for `state modem`.
+# The emulator is the default build's. The timing ratios stay in bench/run.sh: on a shared, noisy
+# machine they are no pass/fail test, while instruction counts repeat from run to run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

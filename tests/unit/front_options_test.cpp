@@ -124,11 +124,7 @@ const ClassifyCase kClassifyCases[] = {
 
 class ClassifierTest : public testing::TestWithParam<ClassifyCase> {
   protected:
-    const std::vector<std::string> subsys_ = word_list(kSubsysWords);
-    const std::vector<std::string> storage_ = word_list(kStorageWords);
-    const std::vector<std::string> arg_ = word_list(kArgWords);
-    const std::vector<std::string> logdest_ = word_list(kLogdestWords);
-    const ArgumentWords words_{subsys_, storage_, arg_, logdest_};
+    const ArgumentWords words_{kSubsysWords, kStorageWords, kArgWords, kLogdestWords};
 };
 
 TEST_P(ClassifierTest, StatusOptionsAndComplaint) {
