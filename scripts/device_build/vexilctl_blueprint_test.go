@@ -160,6 +160,9 @@ func TestVexilctlVendorTree(t *testing.T) {
 			}
 		}
 		modules = append(modules, module)
+		if name == "vexilctl_unit_tests" {
+			checkGoldenData(t, ctx, m, module)
+		}
 	}
 
 	if out := os.Getenv("VEXILCTL_MODULES"); out != "" {
@@ -180,4 +183,32 @@ func ownFlags(args string) []string {
 		}
 	}
 	return own
+}
+
+// Tradefed runs a gtest from /, and the cc_test's data is installed beside the binary: the golden
+// directory the unit tests are compiled with must be where the golden files land.
+func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, module vexilctlModule) {
+	golden := ""
+	for _, f := range module.Cflags {
+		if f = strings.Trim(f, "'"); strings.HasPrefix(f, "-DGOLDEN_DIR=") {
+			golden = strings.Trim(strings.TrimPrefix(f, "-DGOLDEN_DIR="), `"`)
+		}
+	}
+	if !filepath.IsAbs(golden) {
+		golden = filepath.Join("/", golden)
+	}
+	installDir := "/" + filepath.Dir(strings.TrimPrefix(module.Installs[0], "target/product/test_device/"))
+	entries := android.AndroidMkEntriesForTest(t, ctx, m.Module())
+	data := entries[0].EntryMap["LOCAL_TEST_DATA"]
+	if len(data) == 0 {
+		t.Errorf("vexilctl_unit_tests installs no golden files")
+	}
+	for _, d := range data {
+		parts := strings.Split(d, ":") // source prefix, path relative to the module, install dir
+		installed := filepath.Join(installDir, parts[1])
+		if filepath.Dir(installed) != golden {
+			t.Errorf("vexilctl_unit_tests reads its golden files from %s (GOLDEN_DIR run from /), "+
+				"but %s is installed as %s", golden, parts[1], installed)
+		}
+	}
 }
