@@ -16,8 +16,12 @@ ROOT=$PWD
 if [ -z "${AOSP_SRC:-}" ] && [ -d "$ROOT/../shared/aosp-a13" ]; then
     AOSP_SRC=$ROOT/../shared/aosp-a13
 fi
-if [ -z "${AOSP_SRC:-}" ] || [ ! -d "$AOSP_SRC/build/soong" ]; then
-    echo "check_device_build: skipped: no Android 13 source tree (set AOSP_SRC; ../shared/aosp-a13 is absent)"
+if [ -z "${AOSP_SRC:-}" ]; then
+    echo "check_device_build: skipped: no Android 13 source tree (AOSP_SRC unset, ../shared/aosp-a13 absent)"
+    exit 0
+fi
+if [ ! -d "$AOSP_SRC/build/soong" ]; then
+    echo "check_device_build: skipped: AOSP_SRC=$AOSP_SRC has no build/soong"
     exit 0
 fi
 AOSP_SRC=$(cd "$AOSP_SRC" && pwd)
