@@ -8,7 +8,7 @@ aidl=$(bash "$ROOT/scripts/device_build/build_aidl.sh")
 name=vendor.kest.hardware.vexil_svc
 version=1
 api=$ROOT/service/aidl/aidl_api/$name/$version
-out=$SCRATCH/ndk
+out=$SCRATCH/ndk.new
 rm -rf "$out" "$SCRATCH/host_ndk"
 mkdir -p "$out/include"
 for file in $(cd "$api" && find . -name '*.aidl' | LC_ALL=C sort); do
@@ -16,6 +16,17 @@ for file in $(cd "$api" && find . -name '*.aidl' | LC_ALL=C sort); do
         --hash "$(tail -1 "$api/.hash")" --structured --ninja -d "$out/deps.d" \
         -h "$out/include" -o "$out" -I "$api" "$api/$file"
 done
+
+# Files the compiler rewrote with the same text keep their time, so the compile step's rerun
+# stays short.
+mkdir -p "$SCRATCH/ndk"
+(cd "$out" && find . -type f) | while read -r file; do
+    cmp -s "$out/$file" "$SCRATCH/ndk/$file" || install -D -m 644 "$out/$file" "$SCRATCH/ndk/$file"
+done
+(cd "$SCRATCH/ndk" && find . -type f) | while read -r file; do
+    [ -e "$out/$file" ] || rm "$SCRATCH/ndk/$file"
+done
+out=$SCRATCH/ndk
 
 mapfile -t sources < <(cd "$ROOT/service/aidl" && find . -path ./aidl_api -prune -o -name '*.aidl' -print | LC_ALL=C sort)
 (cd "$ROOT/service/aidl" && python3 "$ROOT/tools/aidl_ndk_gen.py" -I . -o "$SCRATCH/host_ndk" "${sources[@]}")
