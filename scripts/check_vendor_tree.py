@@ -6,17 +6,17 @@ Checks (exit 1 when one fails):
     .aidl source, each declaring the same API as its source (comments, the dump header, imports
     and layout aside; type names are compared fully qualified, as the dumps write them), and
     service/aidl/Android.bp declares the frozen versions;
-  - each frozen version's .hash is the hash the build computes over that version's dumps;
   - TEST_MAPPING is JSON and names, as presubmit, test modules that Android.bp defines;
   - PREUPLOAD.cfg has the clang-format and bpfmt hooks.
 
   --update-api      rewrites current/ from the sources (what `m <package>-update-api` does)
-  --freeze VERSION  copies current/ to VERSION/ and writes its .hash
+
+The hashes of frozen versions are checked with the tree's own rule by
+scripts/check_device_build.sh.
 """
 
 import argparse
 import configparser
-import hashlib
 import json
 import re
 import shutil
@@ -135,15 +135,6 @@ def sources() -> dict:
     return {p: canonical((AIDL_ROOT / p).read_text(), types) for p in files}
 
 
-def version_hash(directory: Path, version: str) -> str:
-    """(cd DIR && find ./ -name "*.aidl" -print0 | LC_ALL=C sort -z | xargs -0 sha1sum &&
-    echo VERSION) | sha1sum, as the build computes it when it freezes a version."""
-    names = sorted(("./" + str(p)).encode() for p in relative_aidl_files(directory))
-    listing = b"".join(hashlib.sha1((directory / n.decode()).read_bytes()).hexdigest().encode() +
-                       b"  " + n + b"\n" for n in names)
-    return hashlib.sha1(listing + version.encode() + b"\n").hexdigest()
-
-
 def write_dump(directory: Path, api: dict):
     if directory.exists():
         shutil.rmtree(directory)
@@ -179,7 +170,7 @@ def frozen_versions() -> list:
 
 def check_api(problems: list):
     """current/ is the sources' API; the newest frozen version is current/ (the tool links that
-    version's library, so an unfrozen change is drift); every frozen version keeps its hash."""
+    version's library, so an unfrozen change is drift)."""
     api = sources()
     check_dump(API_DIR / "current", api, problems)
     versions = frozen_versions()
@@ -187,13 +178,6 @@ def check_api(problems: list):
         problems.append(f"{API_DIR.relative_to(ROOT)}: no frozen version")
     else:
         check_dump(API_DIR / versions[-1], api, problems)
-    for version in versions:
-        hash_file = API_DIR / version / ".hash"
-        recorded = hash_file.read_text().split() if hash_file.exists() else []
-        expected = version_hash(API_DIR / version, version)
-        if expected not in recorded:
-            problems.append(f"{hash_file.relative_to(ROOT)}: not the hash of the version-"
-                            f"{version} dumps ({expected})")
     blueprint = (AIDL_ROOT / "Android.bp").read_text()
     declared = re.findall(r'version:\s*"(\d+)"', blueprint)
     if declared != versions:
@@ -233,17 +217,12 @@ def check_preupload(problems: list):
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     parser.add_argument("--update-api", action="store_true")
-    parser.add_argument("--freeze", metavar="VERSION")
     parser.add_argument("--root", type=Path, help="the source tree (default: this script's)")
     args = parser.parse_args()
     if args.root:
         set_root(args.root)
     if args.update_api:
         write_dump(API_DIR / "current", sources())
-    if args.freeze:
-        shutil.copytree(API_DIR / "current", API_DIR / args.freeze)
-        (API_DIR / args.freeze / ".hash").write_text(
-            version_hash(API_DIR / args.freeze, args.freeze) + "\n")
     problems = []
     check_api(problems)
     check_test_mapping(problems)

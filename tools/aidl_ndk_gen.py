@@ -735,7 +735,8 @@ def emit_interface_header(decl, root):
         f"  static const int32_t version = {decl.version};",
         f'  static inline const std::string hash = "{decl.hash}";',
     ]
-    for m in all_methods(decl):
+    # The version and hash queries have codes but, as in the aidl compiler, no named constants.
+    for m in decl.methods:
         out.append(
             f"  static constexpr uint32_t TRANSACTION_{m.name} = FIRST_CALL_TRANSACTION + {m.code};"
         )

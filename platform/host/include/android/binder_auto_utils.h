@@ -171,7 +171,7 @@ class ScopedAIBinder_Weak
     ScopedAIBinder_Weak(ScopedAIBinder_Weak&&) = default;
     ScopedAIBinder_Weak& operator=(ScopedAIBinder_Weak&&) = default;
 
-    SpAIBinder promote() const { return SpAIBinder(AIBinder_Weak_promote(get())); }
+    SpAIBinder promote() { return SpAIBinder(AIBinder_Weak_promote(get())); }
 };
 
 namespace internal {

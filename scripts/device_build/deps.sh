@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Installs the Debian packages the device-build check needs (Go for Soong's tests, what the aidl
+# compiler builds with, clang and libc++ for the device sources), when one is missing.
+set -euo pipefail
+
+declare -A packages=(
+    [golang-go]=/usr/bin/go
+    [golang-github-google-go-cmp-dev]=/usr/share/gocode/src/github.com/google/go-cmp/go.mod
+    [golang-google-protobuf-dev]=/usr/share/gocode/src/google.golang.org/protobuf/go.mod
+    [android-libbase-dev]=/usr/include/android/android-base/logging.h
+    [android-liblog-dev]=/usr/include/android/android/log.h
+    [libfmt-dev]=/usr/include/fmt/format.h
+    [libgtest-dev]=/usr/include/gtest/gtest.h
+    [bison]=/usr/bin/bison
+    [flex]=/usr/bin/flex
+    [clang-14]=/usr/bin/clang++-14
+    [libc++-14-dev]=/usr/lib/llvm-14/include/c++/v1/vector
+    [libc++abi-14-dev]=/usr/lib/llvm-14/lib/libc++abi.a
+)
+
+missing=()
+for pkg in "${!packages[@]}"; do
+    [ -e "${packages[$pkg]}" ] || missing+=("$pkg")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+if [ "$(id -u)" -ne 0 ]; then
+    echo "device_build: missing packages: ${missing[*]} (run as root, or apt-get install them)" >&2
+    exit 1
+fi
+echo "device_build: installing ${missing[*]}" >&2
+export DEBIAN_FRONTEND=noninteractive
+apt-get update -qq
+apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
