@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Checks the vendor-tree build with the real Android 13 build tools taken from an Android source
 # tree: Soong's analysis of the Android.bp files, the aidl compiler's NDK backend, every device
-# source compiled with Soong's flags against the platform headers, and the frozen service API.
+# source compiled with Soong's flags against the platform headers, the frozen service API, and
+# the SELinux policy built with the tree's platform policy.
 #
 #   AOSP_SRC=/path/to/android-13 bash scripts/check_device_build.sh [STEP...]
 #
@@ -33,8 +34,7 @@ bash scripts/device_build/deps.sh
 
 steps=("$@")
 if [ ${#steps[@]} -eq 0 ]; then
-    steps=(soong aidl_compile frozen_api clang_compile)
-    # SELinux policy step: sepolicy
+    steps=(soong aidl_compile frozen_api clang_compile sepolicy)
 fi
 
 status=0
