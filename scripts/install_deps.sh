@@ -38,18 +38,5 @@ declare -A packages=(
     [valgrind]=/usr/bin/valgrind
 )
 
-missing=()
-for pkg in "${!packages[@]}"; do
-    [ -e "${packages[$pkg]}" ] || missing+=("$pkg")
-done
-[ ${#missing[@]} -eq 0 ] && exit 0
-
-if [ "$(id -u)" -ne 0 ]; then
-    echo "install_deps: missing packages: ${missing[*]}" >&2
-    echo "install_deps: run as root, or: sudo apt-get install -y ${missing[*]}" >&2
-    exit 1
-fi
-echo "install_deps: installing ${missing[*]}" >&2
-export DEBIAN_FRONTEND=noninteractive
-apt-get update -qq
-apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+source "$(dirname "${BASH_SOURCE[0]}")/apt_install_missing.sh"
+install_missing install_deps

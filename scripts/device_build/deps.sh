@@ -18,16 +18,5 @@ declare -A packages=(
     [libc++abi-14-dev]=/usr/lib/llvm-14/lib/libc++abi.a
 )
 
-missing=()
-for pkg in "${!packages[@]}"; do
-    [ -e "${packages[$pkg]}" ] || missing+=("$pkg")
-done
-[ ${#missing[@]} -eq 0 ] && exit 0
-if [ "$(id -u)" -ne 0 ]; then
-    echo "device_build: missing packages: ${missing[*]} (run as root, or apt-get install them)" >&2
-    exit 1
-fi
-echo "device_build: installing ${missing[*]}" >&2
-export DEBIAN_FRONTEND=noninteractive
-apt-get update -qq
-apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+source "$(dirname "${BASH_SOURCE[0]}")/../apt_install_missing.sh"
+install_missing device_build
