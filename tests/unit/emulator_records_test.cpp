@@ -78,19 +78,6 @@ TEST(EmulatorRecords, OperationTableFollowsTheInterfaceDefinition) {
     EXPECT_EQ(service_operations().size(), count);
 }
 
-TEST(EmulatorRecords, RecordsRoundTripThroughJson) {
-    svc::CellularLogSettings r;
-    r.mode = 2;
-    r.logPath = "/a b";
-    r.fnodel = -7;
-    Json j = record_to_json(r);
-    EXPECT_EQ(j.begin().key(), "mode") << "fields keep their declaration order";
-    EXPECT_EQ(j["logPath"], "/a b");
-    svc::CellularLogSettings back;
-    record_from_json(j, back, "CellularLogSettings");
-    EXPECT_EQ(back, r);
-}
-
 TEST(EmulatorRecords, LogDatagramsDecode) {
     struct Case {
         std::string datagram;
