@@ -233,13 +233,6 @@ def parse_file(path: Path, golden_dir: Path, text: Optional[str] = None) -> List
         where = f"{path}:{lineno}"
         key, _, value = stripped.partition(" ")
         value = value.strip()
-        if value.startswith("<<"):
-            # Here-document: the lines up to the terminator word form the value.
-            end = next((j for j in range(i, len(lines)) if lines[j].strip() == value[2:].strip()),
-                       None)
-            if not value[2:].strip() or end is None:
-                raise CaseError(f"{where}: a here-document needs its terminator line")
-            value, i = "\n".join(lines[i:end]), end + 1
         if key == "case":
             if not re.fullmatch(r"[\w.-]+", value) or value in (c.name for c in cases):
                 raise CaseError(f"{where}: case name must be new, of letters, digits, '_-.'")

@@ -26,15 +26,6 @@ LOG_LINES = ("proc_query_state: proc_query_state\n", "do_request: do_request mod
 CALLS = ("getSubsystemPresence", "getCellularLogSettings")
 
 
-def enter_own_netns():
-    if os.environ.get(NETNS_MARK) == "1":
-        return
-    os.environ[NETNS_MARK] = "1"
-    flags = "-n" if os.geteuid() == 0 else "-rn"
-    os.execvp("unshare", ["unshare", flags, sys.executable, os.path.abspath(__file__)] +
-              sys.argv[1:])
-
-
 def check_help(tarnmodem) -> list:
     done = subprocess.run([tarnmodem, "--help"], capture_output=True, timeout=10)
     if done.returncode != 0 or done.stderr or not done.stdout.startswith(b"usage: tarnmodem "):
@@ -101,7 +92,10 @@ def main() -> int:
     if len(sys.argv) not in (3, 4):
         print(__doc__.strip().splitlines()[-1], file=sys.stderr)
         return 2
-    enter_own_netns()
+    if os.environ.get(NETNS_MARK) != "1":
+        os.environ[NETNS_MARK] = "1"
+        os.execvp("unshare", ["unshare", "-n" if os.geteuid() == 0 else "-rn", sys.executable,
+                              os.path.abspath(__file__)] + sys.argv[1:])
     vexilctl, tarnmodem = sys.argv[1], sys.argv[2]
     count = int(sys.argv[3]) if len(sys.argv) == 4 else 1000
     with open(DGRAM_QLEN, "w", encoding="ascii") as f:

@@ -104,7 +104,6 @@ SOCKET_FAULTS = [
     ("longer_than_32", "OK" + "x" * 40 + "\n", False, None),
     ("longer_than_32_error", "ERROR 1" + " " * 40 + "\n", False, "Error: 1(unknown request)\n"),
     ("error_1", "ERROR 1\n", False, "Error: 1(unknown request)\n"),
-    ("error_9", "ERROR 9\n", False, "Error: 9(unknown CP or subsystem)\n"),
     ("error_12", "ERROR 12\n", False, "Invalid response: ERROR 12\n"),
     ("error_huge", "ERROR 99999999999999999999\n", False, None),
 ]

@@ -1,6 +1,7 @@
 // tools/aidl_ndk_gen.py refuses what it does not understand, naming the file and line, and
-// never drops a declaration silently. What it writes for the service's own interface is compared
-// with the Android aidl compiler's output by the device-build check.
+// writes nothing then: one row for each kind of refusal (type, annotation, declaration, syntax,
+// file layout, stability). What it writes for the service's own interface is compared with the
+// Android aidl compiler's output by the device-build check.
 #include <gtest/gtest.h>
 #include <stdio.h>
 #include <sys/wait.h>
@@ -91,50 +92,18 @@ TEST(AidlGenerator, RefusesWhatItDoesNotUnderstandWithFileAndLine) {
          "3: error: annotation @nullable is not supported"},
         {"array field", "Rec.aidl", "package p.q;\nparcelable Rec {\n    int[] values;\n}\n",
          "3: error: arrays and generic types are not supported"},
-        {"constant", "IFoo.aidl", "package p.q;\ninterface IFoo {\n  const int X = 1;\n}\n",
-         "3: error: const declarations are not supported"},
         {"oneway method", "IFoo.aidl", "package p.q;\ninterface IFoo {\n oneway void f();\n}\n",
          "3: error: oneway declarations are not supported"},
-        {"enum without backing", "Kind.aidl", "package p.q;\nenum Kind { A }\n",
-         "2: error: enum Kind needs @Backing(type=\"int\")"},
-        {"byte backing", "Kind.aidl", "package p.q;\n@Backing(type=\"byte\")\nenum Kind { A }\n",
-         "2: error: only @Backing(type=\"int\") is supported"},
-        {"out int", "IFoo.aidl", "package p.q;\ninterface IFoo {\n  void f(out int x);\n}\n",
-         "3: error: int parameter x can only be an in parameter"},
-        {"record without direction", "IFoo.aidl",
-         "package p.q;\ninterface IFoo {\n  void f(Plain r);\n}\n",
-         "3: error: parameter r needs a direction (in, out or inout)"},
-        {"field default", "Rec.aidl", "package p.q;\nparcelable Rec {\n  int a = 3;\n}\n",
-         "3: error: field default values are not supported"},
-        {"explicit code", "IFoo.aidl", "package p.q;\ninterface IFoo {\n  void f() = 7;\n}\n",
-         "3: error: explicit transaction codes are not supported"},
-        {"duplicate method", "IFoo.aidl",
-         "package p.q;\ninterface IFoo {\n  void f();\n  int f(int x);\n}\n",
-         "4: error: method f declared twice or reserved"},
         {"missing semicolon", "IFoo.aidl",
          "package p.q;\ninterface IFoo {\n  void f()\n  void g();\n}\n",
          "4: error: expected ';', found 'void'"},
-        {"stray character", "IFoo.aidl", "package p.q;\n#include <x>\n",
-         "2: error: unexpected character '#'"},
         {"unterminated comment", "IFoo.aidl", "package p.q;\n/** doc\ninterface IFoo {}\n",
          "2: error: unterminated comment"},
-        {"two types", "Rec.aidl", "package p.q;\nparcelable Rec { int a; }\nparcelable X {}\n",
-         "3: error: only one type may be declared per file"},
         {"file named otherwise", "Other.aidl", "package p.q;\nparcelable Rec { int a; }\n",
          "2: error: parcelable p.q.Rec must be declared in p/q/Rec.aidl"},
-        {"undefined import", "IFoo.aidl",
-         "package p.q;\nimport p.q.Gone;\ninterface IFoo { void f(); }\n",
-         "2: error: imported type p.q.Gone is not defined"},
-        {"interface value", "IFoo.aidl",
-         "package p.q;\ninterface IFoo {\n  void f(in IFoo other);\n}\n",
-         "3: error: interface-typed values are not supported"},
         {"unstable record in a stable interface", "IFoo.aidl",
          "package p.q;\n@VintfStability\ninterface IFoo {\n  void f(in Plain p);\n}\n",
          "4: error: Plain must be @VintfStability to be used here"},
-        {"unstructured parcelable", "Rec.aidl", "package p.q;\nparcelable Rec;\n",
-         "2: error: unstructured parcelable declarations are not supported"},
-        {"void field", "Rec.aidl", "package p.q;\nparcelable Rec { void a; }\n",
-         "2: error: void is only allowed as a return type"},
     };
     // All cases at once: the interpreter's start-up dominates.
     std::vector<std::unique_ptr<ScratchPackage>> packages;
