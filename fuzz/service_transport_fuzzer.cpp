@@ -10,9 +10,9 @@
 #include <memory>
 
 #include "DeviceState.h"
-#include "Faults.h"
 #include "Journal.h"
 #include "LogControlService.h"
+#include "SharedState.h"
 #include "binder_impl.h"
 #include "parcel_impl.h"
 #include "wire.h"
@@ -23,11 +23,11 @@ namespace {
 constexpr int kMaxRequests = 64;
 
 struct Service {
-    tarnmodem::SharedDeviceState state{tarnmodem::default_device_state()};
-    tarnmodem::FaultTable faults;
+    std::unique_ptr<tarnmodem::SharedState> state =
+        tarnmodem::SharedState::create(tarnmodem::default_device_state(), {});
     tarnmodem::Journal journal;
     std::shared_ptr<tarnmodem::LogControlService> service =
-        ndk::SharedRefBase::make<tarnmodem::LogControlService>(state, faults, journal);
+        ndk::SharedRefBase::make<tarnmodem::LogControlService>(*state, journal);
     ndk::SpAIBinder binder = service->asBinder();
 };
 
