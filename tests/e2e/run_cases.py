@@ -21,17 +21,10 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 import sandbox
+from namespace import namespace_prefix
 from caseformat import Case, CaseError, c_quote, parse_file
 
 HERE = Path(__file__).resolve().parent
-
-
-def namespace_prefix() -> list:
-    """The command that gives a child its own network namespace, or [] when none can be had."""
-    for prefix in (["unshare", "-n"], ["unshare", "-rn"]):
-        if subprocess.run(prefix + ["true"], capture_output=True).returncode == 0:
-            return prefix
-    return []
 
 
 def spec_of(case: Case, args) -> dict:

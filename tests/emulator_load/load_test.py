@@ -17,6 +17,10 @@ import subprocess
 import sys
 import tempfile
 import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+from namespace import reexec_in_own_namespace  # noqa: E402
 
 NETNS_MARK = "VEXIL_LOAD_NETNS"
 DGRAM_QLEN = "/proc/sys/net/unix/max_dgram_qlen"
@@ -92,10 +96,7 @@ def main() -> int:
     if len(sys.argv) not in (3, 4):
         print(__doc__.strip().splitlines()[-1], file=sys.stderr)
         return 2
-    if os.environ.get(NETNS_MARK) != "1":
-        os.environ[NETNS_MARK] = "1"
-        os.execvp("unshare", ["unshare", "-n" if os.geteuid() == 0 else "-rn", sys.executable,
-                              os.path.abspath(__file__)] + sys.argv[1:])
+    reexec_in_own_namespace(NETNS_MARK)
     vexilctl, tarnmodem = sys.argv[1], sys.argv[2]
     count = int(sys.argv[3]) if len(sys.argv) == 4 else 1000
     with open(DGRAM_QLEN, "w", encoding="ascii") as f:

@@ -20,6 +20,10 @@ import sys
 import tempfile
 import threading
 import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+from namespace import reexec_in_own_namespace  # noqa: E402
 
 SET_HOLD_S = 0.5
 # (argv, expected poll time-out in ms, shortest and longest plausible run time in s)
@@ -96,11 +100,7 @@ def main():
     if len(sys.argv) != 2:
         print("usage: server_timeout_test.py VEXILCTL", file=sys.stderr)
         return 2
-    if os.environ.get("VEXIL_SERVER_TIMEOUT_NETNS") != "1":
-        os.environ["VEXIL_SERVER_TIMEOUT_NETNS"] = "1"
-        flags = "-n" if os.geteuid() == 0 else "-rn"
-        os.execvp("unshare", ["unshare", flags, sys.executable, os.path.abspath(__file__)] +
-                  sys.argv[1:])
+    reexec_in_own_namespace("VEXIL_SERVER_TIMEOUT_NETNS")
     start_silent_server()
     verdicts = []
     with tempfile.TemporaryDirectory() as tmp:
