@@ -1,12 +1,5 @@
-"""Sandbox cases: a private file system view and process list for one case (see README.md).
-
-A case with any of DIRECTIVES runs, on top of its network namespace, in its own mount and pid
-namespaces (sandbox_execute.py): a private root whose /data is an empty tmpfs, a working directory
-of its own that may hold stand-in tools in system/bin/, and a /proc that shows only the case's
-processes, so `pidof tarnmodem` finds the case's daemon and nothing else. Afterwards the runner
-checks the files the case names and that nothing else appeared under /data or in the working
-directory. This module parses the directives and judges what sandbox_execute.py observed.
-"""
+"""Sandbox cases (README.md, "Sandbox cases"): parses their directives and judges what
+sandbox_execute.py observed in the case's private root, working directory and process list."""
 
 from __future__ import annotations
 
