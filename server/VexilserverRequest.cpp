@@ -8,7 +8,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "server/ResponseReport.h"
 #include "service/TarnLog.h"
 
 namespace {
@@ -144,25 +143,4 @@ const char* VexilserverRequest::resp_code_to_string(ResponseErrorCode code) {
         default:
             return "Unknown error";
     }
-}
-
-int VexilserverRequest::wait_simple_response(int timeout) {
-    uint8_t buf[kResponseBufferSize] = {};
-    size_t len = sizeof(buf);
-    if (wait_response(buf, len, timeout) != 0) {
-        report_error(RECV_ERROR);
-        return -1;
-    }
-    ResponseErrorCode code = RESP_SUCCESS;
-    const uint8_t* rest = nullptr;
-    if (parse_result(buf, len, code, rest) != 0) {
-        report_invalid_response("wait_simple_response", buf, len);
-        return -1;
-    }
-    if (code != RESP_SUCCESS) {
-        report_response_code("wait_simple_response", code);
-        return -1;
-    }
-    printf("set success\n");
-    return 0;
 }

@@ -54,7 +54,8 @@ class VexilserverRequest {
     // Splits "OK..." or "ERROR <n>..." (n up to RESP_MAX) into its code and the bytes after it.
     int parse_result(const uint8_t* data, size_t len, ResponseErrorCode& code, const uint8_t*& rest);
     static const char* resp_code_to_string(ResponseErrorCode code);
-    // Waits for the answer to a set request and prints the outcome.
+    // Waits for the answer to a set request and prints the outcome (judged with the query
+    // answers in VexilServerExchange.cpp).
     int wait_simple_response(int timeout);
 
   private:
