@@ -7,8 +7,6 @@ cd "$(dirname "$0")/.."
 
 build="${1:-build/default}"
 [ -f "$build/compile_commands.json" ] || cmake --preset default >/dev/null
-# The sources include the service types generated at build time.
-cmake --build "$build" --target vexil_svc_ndk >/dev/null
 
 mapfile -t sources < <(git ls-files -co --exclude-standard -- \
     'front/*.cpp' 'service/*.cpp' 'requests/*.cpp' 'server/*.cpp' 'debug/*.cpp')

@@ -1,5 +1,6 @@
-// Host stand-in for the Android 13 binder NDK C++ parcel helpers (namespace ndk) that generated
-// code uses for strings and records.
+// Host stand-in for the Android 13 binder NDK C++ parcel helpers (namespace ndk) that the
+// service's generated code uses: strings, int32 values, enums and records. The templates keep
+// A13's declarations; their bodies handle only those kinds and refuse any other at compile time.
 #pragma once
 
 #include <android/binder_auto_utils.h>
@@ -8,8 +9,27 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <type_traits>
 
 namespace ndk {
+
+namespace {
+// Tells if T represents NDK parcelable with readFromParcel/writeToParcel methods defined
+template <typename T, typename = void>
+struct is_parcelable : std::false_type {};
+
+template <typename T>
+struct is_parcelable<
+    T, std::void_t<decltype(std::declval<T>().readFromParcel(std::declval<const AParcel*>())),
+                   decltype(std::declval<T>().writeToParcel(std::declval<AParcel*>()))>>
+    : std::true_type {};
+
+template <typename T>
+static inline constexpr bool is_parcelable_v = is_parcelable<T>::value;
+
+template <typename T>
+static inline constexpr bool dependent_false_v = false;
+}  // namespace
 
 // Sizes a std::string for AParcel_readString; refuses a null string.
 static inline bool AParcel_stdStringAllocator(void* stringData, int32_t length, char** buffer) {
@@ -74,6 +94,44 @@ static inline binder_status_t AParcel_readParcelable(const AParcel* parcel, P* p
         return STATUS_UNEXPECTED_NULL;
     }
     return p->readFromParcel(parcel);
+}
+
+/**
+ * Convenience API for writing a value of any type.
+ */
+template <typename T>
+static inline binder_status_t AParcel_writeData(AParcel* parcel, const T& value) {
+    if constexpr (std::is_same_v<std::string, T>) {
+        return AParcel_writeString(parcel, value);
+    } else if constexpr (std::is_same_v<int32_t, T>) {
+        return AParcel_writeInt32(parcel, value);
+    } else if constexpr (std::is_enum_v<T>) {
+        return AParcel_writeData(parcel, static_cast<std::underlying_type_t<T>>(value));
+    } else if constexpr (is_parcelable_v<T>) {
+        return AParcel_writeParcelable(parcel, value);
+    } else {
+        static_assert(dependent_false_v<T>, "unrecognized type");
+        return STATUS_OK;
+    }
+}
+
+/**
+ * Convenience API for reading a value of any type.
+ */
+template <typename T>
+static inline binder_status_t AParcel_readData(const AParcel* parcel, T* value) {
+    if constexpr (std::is_same_v<std::string, T>) {
+        return AParcel_readString(parcel, value);
+    } else if constexpr (std::is_same_v<int32_t, T>) {
+        return AParcel_readInt32(parcel, value);
+    } else if constexpr (std::is_enum_v<T>) {
+        return AParcel_readData(parcel, reinterpret_cast<std::underlying_type_t<T>*>(value));
+    } else if constexpr (is_parcelable_v<T>) {
+        return AParcel_readParcelable(parcel, value);
+    } else {
+        static_assert(dependent_false_v<T>, "unrecognized type");
+        return STATUS_OK;
+    }
 }
 
 }  // namespace ndk
