@@ -6,11 +6,8 @@
 #include <android/binder_parcel.h>
 #include <android/binder_status.h>
 #include <assert.h>
-#include <unistd.h>
 
 #include <cstddef>
-#include <cstring>
-#include <string>
 #include <utility>
 
 namespace ndk {
@@ -44,13 +41,6 @@ class SpAIBinder {
     AIBinder* get() const { return mBinder; }
     AIBinder** getR() { return &mBinder; }
 
-    bool operator!=(const SpAIBinder& rhs) const { return get() != rhs.get(); }
-    bool operator<(const SpAIBinder& rhs) const { return get() < rhs.get(); }
-    bool operator<=(const SpAIBinder& rhs) const { return get() <= rhs.get(); }
-    bool operator==(const SpAIBinder& rhs) const { return get() == rhs.get(); }
-    bool operator>(const SpAIBinder& rhs) const { return get() > rhs.get(); }
-    bool operator>=(const SpAIBinder& rhs) const { return get() >= rhs.get(); }
-
   private:
     AIBinder* mBinder = nullptr;
 };
@@ -72,20 +62,7 @@ class ScopedAResource {
     T get() { return mT; }
     const T get() const { return mT; }
 
-    [[nodiscard]] T release() {
-        T a = mT;
-        mT = DEFAULT;
-        return a;
-    }
-
     T* getR() { return &mT; }
-
-    bool operator!=(const ScopedAResource& rhs) const { return get() != rhs.get(); }
-    bool operator<(const ScopedAResource& rhs) const { return get() < rhs.get(); }
-    bool operator<=(const ScopedAResource& rhs) const { return get() <= rhs.get(); }
-    bool operator==(const ScopedAResource& rhs) const { return get() == rhs.get(); }
-    bool operator>(const ScopedAResource& rhs) const { return get() > rhs.get(); }
-    bool operator>=(const ScopedAResource& rhs) const { return get() >= rhs.get(); }
 
     ScopedAResource(const ScopedAResource&) = delete;
     ScopedAResource& operator=(const ScopedAResource&) = delete;
@@ -122,45 +99,18 @@ class ScopedAStatus : public impl::ScopedAResource<AStatus*, AStatus_delete, nul
 
     bool isOk() const { return get() != nullptr && AStatus_isOk(get()); }
     binder_exception_t getExceptionCode() const { return AStatus_getExceptionCode(get()); }
-    int32_t getServiceSpecificError() const { return AStatus_getServiceSpecificError(get()); }
     binder_status_t getStatus() const { return AStatus_getStatus(get()); }
-    const char* getMessage() const { return AStatus_getMessage(get()); }
-
-    std::string getDescription() const {
-        const char* cStr = AStatus_getDescription(get());
-        std::string ret = cStr;
-        AStatus_deleteDescription(cStr);
-        return ret;
-    }
 
     static ScopedAStatus ok() { return ScopedAStatus(AStatus_newOk()); }
     static ScopedAStatus fromExceptionCode(binder_exception_t exception) {
         return ScopedAStatus(AStatus_fromExceptionCode(exception));
     }
-    static ScopedAStatus fromExceptionCodeWithMessage(binder_exception_t exception,
-                                                      const char* message) {
-        return ScopedAStatus(AStatus_fromExceptionCodeWithMessage(exception, message));
-    }
     static ScopedAStatus fromServiceSpecificError(int32_t serviceSpecific) {
         return ScopedAStatus(AStatus_fromServiceSpecificError(serviceSpecific));
-    }
-    static ScopedAStatus fromServiceSpecificErrorWithMessage(int32_t serviceSpecific,
-                                                             const char* message) {
-        return ScopedAStatus(AStatus_fromServiceSpecificErrorWithMessage(serviceSpecific, message));
     }
     static ScopedAStatus fromStatus(binder_status_t status) {
         return ScopedAStatus(AStatus_fromStatus(status));
     }
-};
-
-class ScopedAIBinder_DeathRecipient
-    : public impl::ScopedAResource<AIBinder_DeathRecipient*, AIBinder_DeathRecipient_delete, nullptr> {
-  public:
-    explicit ScopedAIBinder_DeathRecipient(AIBinder_DeathRecipient* a = nullptr)
-        : ScopedAResource(a) {}
-    ~ScopedAIBinder_DeathRecipient() {}
-    ScopedAIBinder_DeathRecipient(ScopedAIBinder_DeathRecipient&&) = default;
-    ScopedAIBinder_DeathRecipient& operator=(ScopedAIBinder_DeathRecipient&&) = default;
 };
 
 class ScopedAIBinder_Weak
@@ -170,37 +120,6 @@ class ScopedAIBinder_Weak
     ~ScopedAIBinder_Weak() {}
     ScopedAIBinder_Weak(ScopedAIBinder_Weak&&) = default;
     ScopedAIBinder_Weak& operator=(ScopedAIBinder_Weak&&) = default;
-
-    SpAIBinder promote() { return SpAIBinder(AIBinder_Weak_promote(get())); }
-};
-
-namespace internal {
-
-inline void closeWithError(int fd) {
-    if (fd == -1) return;
-    int ret = close(fd);
-    if (ret != 0) {
-        syslog(LOG_ERR, "Could not close FD %d: %s", fd, strerror(errno));
-    }
-}
-
-}  // namespace internal
-
-class ScopedFileDescriptor : public impl::ScopedAResource<int, internal::closeWithError, -1> {
-  public:
-    explicit ScopedFileDescriptor(int a = -1) : ScopedAResource(a) {}
-    ~ScopedFileDescriptor() {}
-    ScopedFileDescriptor(ScopedFileDescriptor&&) = default;
-    ScopedFileDescriptor& operator=(ScopedFileDescriptor&&) = default;
-
-    ScopedFileDescriptor dup() const { return ScopedFileDescriptor(::dup(get())); }
-
-    bool operator!=(const ScopedFileDescriptor& rhs) const { return get() != rhs.get(); }
-    bool operator<(const ScopedFileDescriptor& rhs) const { return get() < rhs.get(); }
-    bool operator<=(const ScopedFileDescriptor& rhs) const { return get() <= rhs.get(); }
-    bool operator==(const ScopedFileDescriptor& rhs) const { return get() == rhs.get(); }
-    bool operator>(const ScopedFileDescriptor& rhs) const { return get() > rhs.get(); }
-    bool operator>=(const ScopedFileDescriptor& rhs) const { return get() >= rhs.get(); }
 };
 
 }  // namespace ndk

@@ -50,25 +50,16 @@ __attribute__((warn_unused_result)) AIBinder* AIBinder_new(const AIBinder_Class*
     __INTRODUCED_IN(29);
 
 bool AIBinder_isRemote(const AIBinder* binder) __INTRODUCED_IN(29);
-bool AIBinder_isAlive(const AIBinder* binder) __INTRODUCED_IN(29);
-binder_status_t AIBinder_ping(AIBinder* binder) __INTRODUCED_IN(29);
 binder_status_t AIBinder_dump(AIBinder* binder, int fd, const char** args, uint32_t numArgs)
     __INTRODUCED_IN(29);
 
 binder_status_t AIBinder_linkToDeath(AIBinder* binder, AIBinder_DeathRecipient* recipient,
                                      void* cookie) __INTRODUCED_IN(29);
-binder_status_t AIBinder_unlinkToDeath(AIBinder* binder, AIBinder_DeathRecipient* recipient,
-                                       void* cookie) __INTRODUCED_IN(29);
-
-uid_t AIBinder_getCallingUid() __INTRODUCED_IN(29);
-pid_t AIBinder_getCallingPid() __INTRODUCED_IN(29);
 
 void AIBinder_incStrong(AIBinder* binder) __INTRODUCED_IN(29);
 void AIBinder_decStrong(AIBinder* binder) __INTRODUCED_IN(29);
-int32_t AIBinder_debugGetRefCount(AIBinder* binder) __INTRODUCED_IN(29);
 
 bool AIBinder_associateClass(AIBinder* binder, const AIBinder_Class* clazz) __INTRODUCED_IN(29);
-const AIBinder_Class* AIBinder_getClass(AIBinder* binder) __INTRODUCED_IN(29);
 void* AIBinder_getUserData(AIBinder* binder) __INTRODUCED_IN(29);
 
 binder_status_t AIBinder_prepareTransaction(AIBinder* binder, AParcel** in) __INTRODUCED_IN(29);
@@ -82,18 +73,8 @@ __attribute__((warn_unused_result)) AIBinder* AIBinder_Weak_promote(AIBinder_Wea
     __INTRODUCED_IN(29);
 
 typedef void (*AIBinder_DeathRecipient_onBinderDied)(void* cookie) __INTRODUCED_IN(29);
-typedef void (*AIBinder_DeathRecipient_onBinderUnlinked)(void* cookie) __INTRODUCED_IN(33);
 
 __attribute__((warn_unused_result)) AIBinder_DeathRecipient* AIBinder_DeathRecipient_new(
     AIBinder_DeathRecipient_onBinderDied onBinderDied) __INTRODUCED_IN(29);
-void AIBinder_DeathRecipient_setOnUnlinked(AIBinder_DeathRecipient* recipient,
-                                           AIBinder_DeathRecipient_onBinderUnlinked onUnlinked)
-    __INTRODUCED_IN(33);
-void AIBinder_DeathRecipient_delete(AIBinder_DeathRecipient* recipient) __INTRODUCED_IN(29);
-
-const char* AIBinder_Class_getDescriptor(const AIBinder_Class* clazz) __INTRODUCED_IN(31);
-bool AIBinder_lt(const AIBinder* lhs, const AIBinder* rhs) __INTRODUCED_IN(31);
-AIBinder_Weak* AIBinder_Weak_clone(const AIBinder_Weak* weak) __INTRODUCED_IN(31);
-bool AIBinder_Weak_lt(const AIBinder_Weak* lhs, const AIBinder_Weak* rhs) __INTRODUCED_IN(31);
 
 __END_DECLS

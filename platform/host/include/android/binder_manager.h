@@ -10,12 +10,7 @@ __BEGIN_DECLS
 
 __attribute__((warn_unused_result)) binder_exception_t AServiceManager_addService(
     AIBinder* binder, const char* instance) __INTRODUCED_IN(29);
-__attribute__((warn_unused_result)) AIBinder* AServiceManager_checkService(const char* instance)
-    __INTRODUCED_IN(29);
 __attribute__((warn_unused_result)) AIBinder* AServiceManager_getService(const char* instance)
     __INTRODUCED_IN(29);
-__attribute__((warn_unused_result)) AIBinder* AServiceManager_waitForService(const char* instance)
-    __INTRODUCED_IN(31);
-bool AServiceManager_isDeclared(const char* instance) __INTRODUCED_IN(31);
 
 __END_DECLS

@@ -7,7 +7,6 @@
 #include <android/binder_parcel.h>
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -40,17 +39,6 @@ static inline bool AParcel_stdStringAllocator(void* stringData, int32_t length, 
     return true;
 }
 
-static inline bool AParcel_nullableStdStringAllocator(void* stringData, int32_t length,
-                                                      char** buffer) {
-    std::optional<std::string>* str = static_cast<std::optional<std::string>*>(stringData);
-    if (length < 0) {
-        *str = std::nullopt;
-        return true;
-    }
-    *str = std::optional<std::string>(std::string{});
-    return AParcel_stdStringAllocator(&**str, length, buffer);
-}
-
 static inline binder_status_t AParcel_writeString(AParcel* parcel, const std::string& str) {
     if (str.size() > INT32_MAX) return STATUS_BAD_VALUE;
     return AParcel_writeString(parcel, str.c_str(), static_cast<int32_t>(str.size()));
@@ -59,18 +47,6 @@ static inline binder_status_t AParcel_writeString(AParcel* parcel, const std::st
 static inline binder_status_t AParcel_readString(const AParcel* parcel, std::string* str) {
     void* stringData = static_cast<void*>(str);
     return AParcel_readString(parcel, stringData, AParcel_stdStringAllocator);
-}
-
-static inline binder_status_t AParcel_writeString(AParcel* parcel,
-                                                  const std::optional<std::string>& str) {
-    if (!str) return AParcel_writeString(parcel, nullptr, -1);
-    return AParcel_writeString(parcel, *str);
-}
-
-static inline binder_status_t AParcel_readString(const AParcel* parcel,
-                                                 std::optional<std::string>* str) {
-    void* stringData = static_cast<void*>(str);
-    return AParcel_readString(parcel, stringData, AParcel_nullableStdStringAllocator);
 }
 
 // A non-null record: a presence marker, then the record itself.

@@ -9,7 +9,5 @@
 __BEGIN_DECLS
 
 void ABinderProcess_startThreadPool();
-bool ABinderProcess_setThreadPoolMaxThreadCount(uint32_t numThreads);
-void ABinderProcess_joinThreadPool();
 
 __END_DECLS

@@ -2,9 +2,3 @@
 #pragma once
 
 #include <android/binder_ibinder.h>
-
-__BEGIN_DECLS
-
-void AIBinder_markVintfStability(AIBinder* binder);
-
-__END_DECLS

@@ -64,22 +64,13 @@ typedef struct AStatus AStatus;
 __attribute__((warn_unused_result)) AStatus* AStatus_newOk() __INTRODUCED_IN(29);
 __attribute__((warn_unused_result)) AStatus* AStatus_fromExceptionCode(binder_exception_t exception)
     __INTRODUCED_IN(29);
-__attribute__((warn_unused_result)) AStatus* AStatus_fromExceptionCodeWithMessage(
-    binder_exception_t exception, const char* message) __INTRODUCED_IN(29);
 __attribute__((warn_unused_result)) AStatus* AStatus_fromServiceSpecificError(int32_t serviceSpecific)
     __INTRODUCED_IN(29);
-__attribute__((warn_unused_result)) AStatus* AStatus_fromServiceSpecificErrorWithMessage(
-    int32_t serviceSpecific, const char* message) __INTRODUCED_IN(29);
 __attribute__((warn_unused_result)) AStatus* AStatus_fromStatus(binder_status_t status)
     __INTRODUCED_IN(29);
 bool AStatus_isOk(const AStatus* status) __INTRODUCED_IN(29);
 binder_exception_t AStatus_getExceptionCode(const AStatus* status) __INTRODUCED_IN(29);
-int32_t AStatus_getServiceSpecificError(const AStatus* status) __INTRODUCED_IN(29);
 binder_status_t AStatus_getStatus(const AStatus* status) __INTRODUCED_IN(29);
-const char* AStatus_getMessage(const AStatus* status) __INTRODUCED_IN(29);
-__attribute__((warn_unused_result)) const char* AStatus_getDescription(const AStatus* status)
-    __INTRODUCED_IN(30);
-void AStatus_deleteDescription(const char* description) __INTRODUCED_IN(30);
 void AStatus_delete(AStatus* status) __INTRODUCED_IN(29);
 
 __END_DECLS

@@ -2,7 +2,6 @@
 // log sink, never to stdout or stderr.
 #pragma once
 
-#include <stdarg.h>
 #include <sys/cdefs.h>
 
 __BEGIN_DECLS
@@ -19,12 +18,7 @@ typedef enum android_LogPriority {
     ANDROID_LOG_SILENT,
 } android_LogPriority;
 
-int __android_log_write(int prio, const char* tag, const char* text);
-
 int __android_log_print(int prio, const char* tag, const char* fmt, ...)
     __attribute__((__format__(printf, 3, 4)));
-
-int __android_log_vprint(int prio, const char* tag, const char* fmt, va_list ap)
-    __attribute__((__format__(printf, 3, 0)));
 
 __END_DECLS

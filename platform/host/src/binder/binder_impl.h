@@ -81,9 +81,6 @@ class RemoteBinder : public AIBinder {
     const std::string& descriptor() const { return descriptor_; }
 
     binder_status_t link(AIBinder_DeathRecipient* recipient, void* cookie);
-    binder_status_t unlink(AIBinder_DeathRecipient* recipient, void* cookie);
-    // Drops every link of a recipient that is being deleted.
-    static void forget(AIBinder_DeathRecipient* recipient);
 
   private:
     // Marks the binder dead and runs the death notifications (without holding any lock).
@@ -100,9 +97,6 @@ void forget_binder_links(RemoteBinder* binder);
 
 // True when both classes stand for the same interface.
 bool same_interface(const AIBinder_Class* a, const AIBinder_Class* b);
-
-// The identity of the process that sent the transaction being handled on this thread.
-void set_calling_identity(pid_t pid, uid_t uid);
 
 // Opens a remote binder for the service published at `instance`: null (errno set) when nothing
 // listens there or the service does not answer the descriptor query.

@@ -1,7 +1,4 @@
 // AIBinder_*: classes, reference counting, weak references and transactions.
-#include <unistd.h>
-
-#include <functional>
 #include <memory>
 
 #include "binder_impl.h"
@@ -15,10 +12,6 @@ namespace {
 
 // The binder flags callers may pass: oneway, and the vendor marker the device adds.
 constexpr binder_flags_t kKnownFlags = FLAG_ONEWAY | 0x10000000;
-
-thread_local pid_t t_calling_pid = 0;
-thread_local uid_t t_calling_uid = 0;
-thread_local bool t_has_calling_identity = false;
 
 bool try_inc_strong(AIBinder* binder) {
     int32_t count = binder->strong.load();
@@ -46,12 +39,6 @@ bool same_interface(const AIBinder_Class* a, const AIBinder_Class* b) {
     return a == b || (a != nullptr && b != nullptr && a->descriptor == b->descriptor);
 }
 
-void set_calling_identity(pid_t pid, uid_t uid) {
-    t_calling_pid = pid;
-    t_calling_uid = uid;
-    t_has_calling_identity = true;
-}
-
 LocalBinder::LocalBinder(const AIBinder_Class* c, void* user_data) : user_data_(user_data) {
     clazz = c;
 }
@@ -68,7 +55,6 @@ binder_status_t LocalBinder::transact(transaction_code_t code, const AParcel& in
         return AParcel_writeString(out, c->descriptor.c_str(),
                                    static_cast<int32_t>(c->descriptor.size()));
     }
-    if (code == kPingTransaction) return STATUS_OK;
     if (code < FIRST_CALL_TRANSACTION || code > LAST_CALL_TRANSACTION) {
         return STATUS_UNKNOWN_TRANSACTION;
     }
@@ -101,10 +87,6 @@ void AIBinder_Class_setOnDump(AIBinder_Class* clazz, AIBinder_onDump onDump) {
     if (clazz != nullptr) clazz->on_dump = onDump;
 }
 
-const char* AIBinder_Class_getDescriptor(const AIBinder_Class* clazz) {
-    return clazz == nullptr ? nullptr : clazz->descriptor.c_str();
-}
-
 AIBinder* AIBinder_new(const AIBinder_Class* clazz, void* args) {
     if (clazz == nullptr) return nullptr;
     void* user_data = clazz->on_create != nullptr ? clazz->on_create(args) : args;
@@ -115,33 +97,12 @@ bool AIBinder_isRemote(const AIBinder* binder) {
     return binder != nullptr && binder->is_remote();
 }
 
-bool AIBinder_isAlive(const AIBinder* binder) {
-    if (binder == nullptr) return false;
-    if (!binder->is_remote()) return true;
-    return static_cast<const host::binder::RemoteBinder*>(binder)->alive();
-}
-
-binder_status_t AIBinder_ping(AIBinder* binder) {
-    if (binder == nullptr) return STATUS_UNEXPECTED_NULL;
-    AParcel in;
-    AParcel out;
-    return binder->transact(host::binder::kPingTransaction, in, &out, 0);
-}
-
 binder_status_t AIBinder_dump(AIBinder* binder, int fd, const char** args, uint32_t numArgs) {
     if (binder == nullptr) return STATUS_UNEXPECTED_NULL;
     if (binder->is_remote()) return STATUS_INVALID_OPERATION;
     const AIBinder_Class* clazz = binder->clazz.load();
     if (clazz->on_dump == nullptr) return STATUS_OK;
     return clazz->on_dump(binder, fd, args, numArgs);
-}
-
-uid_t AIBinder_getCallingUid() {
-    return t_has_calling_identity ? t_calling_uid : getuid();
-}
-
-pid_t AIBinder_getCallingPid() {
-    return t_has_calling_identity ? t_calling_pid : getpid();
 }
 
 void AIBinder_incStrong(AIBinder* binder) {
@@ -159,17 +120,9 @@ void AIBinder_decStrong(AIBinder* binder) {
     delete binder;
 }
 
-int32_t AIBinder_debugGetRefCount(AIBinder* binder) {
-    return binder == nullptr ? -1 : binder->strong.load();
-}
-
 bool AIBinder_associateClass(AIBinder* binder, const AIBinder_Class* clazz) {
     if (binder == nullptr || clazz == nullptr) return false;
     return binder->associate(clazz);
-}
-
-const AIBinder_Class* AIBinder_getClass(AIBinder* binder) {
-    return binder == nullptr ? nullptr : binder->clazz.load();
 }
 
 void* AIBinder_getUserData(AIBinder* binder) {
@@ -217,20 +170,3 @@ AIBinder* AIBinder_Weak_promote(AIBinder_Weak* weakBinder) {
     if (binder == nullptr || !try_inc_strong(binder)) return nullptr;
     return binder;
 }
-
-AIBinder_Weak* AIBinder_Weak_clone(const AIBinder_Weak* weak) {
-    if (weak == nullptr) return nullptr;
-    return new AIBinder_Weak{weak->target};
-}
-
-bool AIBinder_lt(const AIBinder* lhs, const AIBinder* rhs) {
-    return std::less<const AIBinder*>()(lhs, rhs);
-}
-
-bool AIBinder_Weak_lt(const AIBinder_Weak* lhs, const AIBinder_Weak* rhs) {
-    const WeakTarget* a = lhs == nullptr ? nullptr : lhs->target.get();
-    const WeakTarget* b = rhs == nullptr ? nullptr : rhs->target.get();
-    return std::less<const WeakTarget*>()(a, b);
-}
-
-void AIBinder_markVintfStability(AIBinder* /*binder*/) {}

@@ -71,34 +71,10 @@ binder_status_t read_value(const AParcel* parcel, T* value) {
     return STATUS_OK;
 }
 
-// Small values travel as int32, as on the device.
-template <typename T>
-binder_status_t read_as_int32(const AParcel* parcel, T* value) {
-    int32_t wide = 0;
-    binder_status_t status = read_value(parcel, &wide);
-    if (status == STATUS_OK) *value = static_cast<T>(wide);
-    return status;
-}
-
 }  // namespace
-
-AParcel* AParcel_create() {
-    return new AParcel;
-}
 
 void AParcel_delete(AParcel* parcel) {
     delete parcel;
-}
-
-binder_status_t AParcel_reset(AParcel* parcel) {
-    if (parcel == nullptr) return STATUS_UNEXPECTED_NULL;
-    parcel->data.clear();
-    parcel->position = 0;
-    return STATUS_OK;
-}
-
-int32_t AParcel_getDataSize(const AParcel* parcel) {
-    return static_cast<int32_t>(parcel->data.size());
 }
 
 binder_status_t AParcel_setDataPosition(const AParcel* parcel, int32_t position) {
@@ -114,60 +90,9 @@ int32_t AParcel_getDataPosition(const AParcel* parcel) {
 binder_status_t AParcel_writeInt32(AParcel* parcel, int32_t value) {
     return write_value(parcel, value);
 }
-binder_status_t AParcel_writeUint32(AParcel* parcel, uint32_t value) {
-    return write_value(parcel, value);
-}
-binder_status_t AParcel_writeInt64(AParcel* parcel, int64_t value) {
-    return write_value(parcel, value);
-}
-binder_status_t AParcel_writeUint64(AParcel* parcel, uint64_t value) {
-    return write_value(parcel, value);
-}
-binder_status_t AParcel_writeFloat(AParcel* parcel, float value) {
-    return write_value(parcel, value);
-}
-binder_status_t AParcel_writeDouble(AParcel* parcel, double value) {
-    return write_value(parcel, value);
-}
-binder_status_t AParcel_writeBool(AParcel* parcel, bool value) {
-    return write_value(parcel, static_cast<int32_t>(value));
-}
-binder_status_t AParcel_writeChar(AParcel* parcel, char16_t value) {
-    return write_value(parcel, static_cast<int32_t>(value));
-}
-binder_status_t AParcel_writeByte(AParcel* parcel, int8_t value) {
-    return write_value(parcel, static_cast<int32_t>(value));
-}
 
 binder_status_t AParcel_readInt32(const AParcel* parcel, int32_t* value) {
     return read_value(parcel, value);
-}
-binder_status_t AParcel_readUint32(const AParcel* parcel, uint32_t* value) {
-    return read_value(parcel, value);
-}
-binder_status_t AParcel_readInt64(const AParcel* parcel, int64_t* value) {
-    return read_value(parcel, value);
-}
-binder_status_t AParcel_readUint64(const AParcel* parcel, uint64_t* value) {
-    return read_value(parcel, value);
-}
-binder_status_t AParcel_readFloat(const AParcel* parcel, float* value) {
-    return read_value(parcel, value);
-}
-binder_status_t AParcel_readDouble(const AParcel* parcel, double* value) {
-    return read_value(parcel, value);
-}
-binder_status_t AParcel_readBool(const AParcel* parcel, bool* value) {
-    int32_t wide = 0;
-    binder_status_t status = read_value(parcel, &wide);
-    if (status == STATUS_OK) *value = wide != 0;
-    return status;
-}
-binder_status_t AParcel_readChar(const AParcel* parcel, char16_t* value) {
-    return read_as_int32(parcel, value);
-}
-binder_status_t AParcel_readByte(const AParcel* parcel, int8_t* value) {
-    return read_as_int32(parcel, value);
 }
 
 binder_status_t AParcel_writeString(AParcel* parcel, const char* string, int32_t length) {

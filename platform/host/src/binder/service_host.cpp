@@ -50,11 +50,6 @@ bool spawn_detached(std::unique_ptr<Fn> fn) {
 
 // Answers the requests of one client until it hangs up or sends a malformed frame.
 void serve_connection(int fd, AIBinder* binder) {
-    ucred peer{};
-    socklen_t peer_len = sizeof(peer);
-    if (getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &peer, &peer_len) == 0) {
-        set_calling_identity(peer.pid, peer.uid);
-    }
     for (;;) {
         Frame request;
         if (read_frame(fd, &request) != FrameResult::kOk) break;
@@ -113,16 +108,6 @@ void ServiceHost::start() {
     if (accepting_) return;
     auto loop = std::make_unique<std::function<void()>>([this] { accept_loop(); });
     accepting_ = spawn_detached(std::move(loop));
-}
-
-void ServiceHost::join() {
-    bool run_here = false;
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        if (!accepting_) accepting_ = run_here = true;
-    }
-    if (run_here) accept_loop();
-    for (;;) pause();
 }
 
 void ServiceHost::wake() {

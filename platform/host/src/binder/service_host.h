@@ -21,9 +21,6 @@ class ServiceHost {
     // Starts accepting connections on a background thread (once).
     void start();
 
-    // Accepts connections on the calling thread, or waits forever if another thread does.
-    [[noreturn]] void join();
-
     ServiceHost();
 
   private:

@@ -17,9 +17,6 @@ namespace host::binder {
 // Asks a service for its interface descriptor; the reply parcel holds it as a string.
 constexpr uint32_t kInterfaceTransaction =
     (uint32_t{'_'} << 24) | (uint32_t{'N'} << 16) | (uint32_t{'T'} << 8) | uint32_t{'F'};
-// Answered with an empty reply.
-constexpr uint32_t kPingTransaction =
-    (uint32_t{'_'} << 24) | (uint32_t{'P'} << 16) | (uint32_t{'N'} << 8) | uint32_t{'G'};
 
 constexpr size_t kFrameWordsBytes = 8;
 constexpr size_t kMaxFrameBytes = kFrameWordsBytes + kMaxParcelBytes;

@@ -2,6 +2,7 @@
 // ever written to stdout or stderr; lines are dropped silently when nobody listens.
 #include <android/log.h>
 #include <errno.h>
+#include <stdarg.h>
 #include <host/log_sink.h>
 #include <stdio.h>
 #include <string.h>
@@ -61,27 +62,15 @@ int write_line(int prio, const char* tag, const char* text) {
 }  // namespace
 
 // Logging never changes errno: callers often log a failure and then report errno themselves.
-extern "C" int __android_log_write(int prio, const char* tag, const char* text) {
-    int saved_errno = errno;
-    int rc = write_line(prio, tag, text);
-    errno = saved_errno;
-    return rc;
-}
-
-extern "C" int __android_log_vprint(int prio, const char* tag, const char* fmt, va_list ap) {
+extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
     int saved_errno = errno;
     char buf[kLogBufferSize];
     if (fmt == nullptr) fmt = "";
-    vsnprintf(buf, sizeof(buf), fmt, ap);
-    int rc = write_line(prio, tag, buf);
-    errno = saved_errno;
-    return rc;
-}
-
-extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
     va_list ap;
     va_start(ap, fmt);
-    int rc = __android_log_vprint(prio, tag, fmt, ap);
+    vsnprintf(buf, sizeof(buf), fmt, ap);
     va_end(ap);
+    int rc = write_line(prio, tag, buf);
+    errno = saved_errno;
     return rc;
 }
