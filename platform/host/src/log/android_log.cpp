@@ -2,8 +2,8 @@
 // ever written to stdout or stderr; lines are dropped silently when nobody listens.
 #include <android/log.h>
 #include <errno.h>
-#include <stdarg.h>
 #include <host/log_sink.h>
+#include <stdarg.h>
 #include <stdio.h>
 #include <string.h>
 #include <sys/socket.h>
