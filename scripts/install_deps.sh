@@ -6,7 +6,7 @@
 set -euo pipefail
 
 # Debian package -> a file that shows it is installed. The build itself: compiler, CMake,
-# Ninja, Python (the AIDL generator), nlohmann-json (the emulator), unshare (the demo's
+# Ninja, Python (the demo's session), nlohmann-json (the emulator), unshare (the demo's
 # network namespace).
 declare -A packages=(
     [g++]=/usr/bin/g++
