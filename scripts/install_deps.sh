@@ -6,18 +6,17 @@
 set -euo pipefail
 
 # Debian package -> a file that shows it is installed. The build itself: compiler, CMake,
-# Ninja, Python (the demo's session), nlohmann-json (the emulator), unshare (the demo's
-# network namespace).
+# Ninja, nlohmann-json (the emulator), unshare (the demo's network namespace).
 declare -A packages=(
     [g++]=/usr/bin/g++
     [cmake]=/usr/bin/cmake
     [ninja-build]=/usr/bin/ninja
-    [python3]=/usr/bin/python3
     [nlohmann-json3-dev]=/usr/include/nlohmann/json.hpp
     [util-linux]=/usr/bin/unshare
 )
-# The tests and checks.
+# The tests and checks (Python runs the end-to-end cases and the vendor-tree checks).
 [ "${1:-}" = demo ] || packages+=(
+    [python3]=/usr/bin/python3
     [libgtest-dev]=/usr/include/gtest/gtest.h
     [libgmock-dev]=/usr/include/gmock/gmock.h
     [clang-format]=/usr/bin/clang-format
