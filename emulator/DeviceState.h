@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <tuple>
 
 #include "ServiceTypes.h"
 
@@ -37,6 +38,15 @@ struct DeviceState {
     // Not part of the state file: the socket's log-to-PC switch and the PS log profile.
     bool logToPc = false;
     int32_t psLogProfile = 0;
+
+    bool operator==(const DeviceState& rhs) const {
+        auto fields = [](const DeviceState& s) {
+            return std::tie(s.cellular, s.connectivity, s.pmSensorHub, s.sensorHub, s.agdsp,
+                            s.presence, s.modemIo, s.mipi, s.storage, s.storageMedia,
+                            s.parentLogPath, s.autoReboot, s.runState, s.logToPc, s.psLogProfile);
+        };
+        return fields(*this) == fields(rhs);
+    }
 };
 
 DeviceState default_device_state();

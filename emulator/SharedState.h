@@ -26,16 +26,17 @@ class SharedState {
     SharedState& operator=(const SharedState&) = delete;
 
     // Runs f on the device state under the lock and returns what f returns; a change is seen by
-    // every process from then on.
+    // every process from then on. A state f left as it was is not published again.
     template <typename F>
     auto with(F f) {
         Lock lock(*this);
+        const DeviceState before = copy_.device;
         if constexpr (std::is_void_v<decltype(f(copy_.device))>) {
             f(copy_.device);
-            publish();
+            if (!(copy_.device == before)) publish();
         } else {
             auto result = f(copy_.device);
-            publish();
+            if (!(copy_.device == before)) publish();
             return result;
         }
     }

@@ -41,6 +41,11 @@ uint32_t get_word(const uint8_t* where) {
     return value;
 }
 
+// The frame's length word is within the limits.
+bool length_ok(uint32_t length) {
+    return length >= kFrameWordsBytes && length <= kMaxFrameBytes;
+}
+
 }  // namespace
 
 bool send_frame(int fd, uint32_t word1, uint32_t word2, const std::vector<uint8_t>& payload) {
@@ -57,12 +62,25 @@ FrameResult read_frame(int fd, Frame* frame) {
     uint8_t head[4 + kFrameWordsBytes];
     if (!read_all(fd, head, 4)) return FrameResult::kClosed;
     uint32_t length = get_word(head);
-    if (length < kFrameWordsBytes || length > kMaxFrameBytes) return FrameResult::kMalformed;
+    if (!length_ok(length)) return FrameResult::kMalformed;
     if (!read_all(fd, head + 4, kFrameWordsBytes)) return FrameResult::kClosed;
     frame->word1 = get_word(head + 4);
     frame->word2 = get_word(head + 8);
     frame->payload.resize(length - kFrameWordsBytes);
     if (!read_all(fd, frame->payload.data(), frame->payload.size())) return FrameResult::kClosed;
+    return FrameResult::kOk;
+}
+
+FrameResult take_frame(const uint8_t*& data, size_t& size, Frame* frame) {
+    if (size < 4) return FrameResult::kClosed;
+    uint32_t length = get_word(data);
+    if (!length_ok(length)) return FrameResult::kMalformed;
+    if (size - 4 < length) return FrameResult::kClosed;
+    frame->word1 = get_word(data + 4);
+    frame->word2 = get_word(data + 8);
+    frame->payload.assign(data + 4 + kFrameWordsBytes, data + 4 + length);
+    data += 4 + length;
+    size -= 4 + length;
     return FrameResult::kOk;
 }
 

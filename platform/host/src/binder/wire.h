@@ -38,4 +38,8 @@ bool send_frame(int fd, uint32_t word1, uint32_t word2, const std::vector<uint8_
 
 FrameResult read_frame(int fd, Frame* frame);
 
+// Takes one frame off the front of a byte stream held in memory, as read_frame reads it from a
+// socket: kClosed when the bytes end inside the frame. data and size move past the frame.
+FrameResult take_frame(const uint8_t*& data, size_t& size, Frame* frame);
+
 }  // namespace host::binder
