@@ -4,15 +4,24 @@
 # scratch directory, not into the tree; a crashing input is kept under build/fuzz/findings/.
 #
 #   bash scripts/check_fuzz.sh                    # smoke run of every target
-#   FUZZ_SECONDS=600 bash scripts/check_fuzz.sh   # long run
+#   FUZZ_SECONDS=600 bash scripts/check_fuzz.sh   # longer run, nothing kept
 #   bash scripts/check_fuzz.sh response_fuzzer    # only the named targets
+#   bash scripts/check_fuzz.sh --campaign 3600 [TARGET...]
+#       a campaign: each target for the given seconds, what it finds merged (minimised) into
+#       fuzz/corpus/, per target the executions, coverage and whether it flattened, recorded in
+#       fuzz/campaign.tsv (scripts/fuzz_campaign.py)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+campaign=
+if [ "${1:-}" = --campaign ]; then
+    campaign=${2:?check_fuzz: --campaign needs a number of seconds}
+    shift 2
+fi
 seconds="${FUZZ_SECONDS:-5}"
 targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(front_fuzzer response_fuzzer vexilserver_line_fuzzer
-                                   service_transport_fuzzer)
+                                   service_transport_fuzzer state_file_fuzzer)
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -31,10 +40,16 @@ mkdir -p "$findings"
 # would read that as a bad conversion.
 export ASAN_OPTIONS="check_printf=0:${ASAN_OPTIONS:-}"
 
+if [ -n "$campaign" ]; then
+    exec python3 scripts/fuzz_campaign.py "$campaign" "${targets[@]}"
+fi
+
 status=0
 for target in "${targets[@]}"; do
     mkdir -p "$scratch/$target"
-    if build/fuzz/fuzz/"$target" -max_total_time="$seconds" -close_fd_mask=3 \
+    dict=()
+    [ -f "fuzz/$target.dict" ] && dict=(-dict="fuzz/$target.dict")
+    if build/fuzz/fuzz/"$target" "${dict[@]}" -max_total_time="$seconds" -close_fd_mask=3 \
         -print_final_stats=1 -artifact_prefix="$findings/$target-" \
         "$scratch/$target" "fuzz/corpus/$target" >"$scratch/$target.log" 2>&1; then
         runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$scratch/$target.log")
