@@ -2,14 +2,16 @@
 """A long fuzzing run of each named target (built by scripts/check_fuzz.sh in build/fuzz): from its
 corpus in fuzz/corpus/<target>/ with its dictionary fuzz/<target>.dict when there is one, for the
 given seconds. What it finds is merged back into the corpus, minimised (-merge=1). Prints per
-target the executions, executions per second, coverage (cov / ft), the time of the last new
-feature and whether the coverage flattened (nothing new in the last quarter of the run), and
-appends the same to fuzz/campaign.tsv, the record of every campaign run.
+target the executions, executions per second, the CPU seconds the target used, coverage
+(cov / ft), the time of the last new feature and whether the coverage flattened (nothing new in
+the last quarter of the run), and appends the same to fuzz/campaign.tsv, the record of every
+campaign run (on a shared machine wall time and CPU time differ: the CPU seconds add up).
 
     python3 scripts/fuzz_campaign.py SECONDS TARGET..."""
 
 import os
 import re
+import resource
 import shutil
 import subprocess
 import sys
@@ -36,6 +38,7 @@ def run(target: str, seconds: int) -> dict:
     if dictionary.exists():
         args.insert(1, f"-dict={dictionary}")
     start = time.monotonic()
+    cpu_before = resource.getrusage(resource.RUSAGE_CHILDREN)
     last_new, cov, ft, execs = 0.0, 0, 0, 0
     crashed = False
     with subprocess.Popen(args, stderr=subprocess.PIPE, stdout=subprocess.DEVNULL, text=True,
@@ -54,6 +57,8 @@ def run(target: str, seconds: int) -> dict:
             if crashed:
                 sys.stderr.write(line)
     elapsed = time.monotonic() - start
+    cpu_after = resource.getrusage(resource.RUSAGE_CHILDREN)
+    cpu = (cpu_after.ru_utime + cpu_after.ru_stime) - (cpu_before.ru_utime + cpu_before.ru_stime)
     crashed = crashed or proc.returncode != 0
     # The corpus becomes the smallest set that keeps all the coverage of the old and the new.
     merged = scratch / "merged"
@@ -64,7 +69,7 @@ def run(target: str, seconds: int) -> dict:
         shutil.rmtree(corpus)
         shutil.copytree(merged, corpus)
     shutil.rmtree(scratch)
-    return {"target": target, "seconds": round(elapsed), "execs": execs,
+    return {"target": target, "seconds": round(elapsed), "cpu_seconds": round(cpu), "execs": execs,
             "per_second": round(execs / elapsed) if elapsed else 0, "cov": cov, "ft": ft,
             "last_new": round(last_new), "flat": "yes" if last_new < 0.75 * elapsed else "no",
             "corpus": len(os.listdir(corpus)), "crashed": "yes" if crashed else "no"}
@@ -75,7 +80,7 @@ def main() -> int:
         sys.exit(__doc__)
     seconds, targets = int(sys.argv[1]), sys.argv[2:]
     log = ROOT / "fuzz/campaign.tsv"
-    columns = ["date", "target", "seconds", "execs", "per_second", "cov", "ft", "last_new", "flat",
+    columns = ["date", "target", "seconds", "cpu_seconds", "execs", "per_second", "cov", "ft", "last_new", "flat",
                "corpus", "crashed"]
     if not log.exists():
         log.write_text("\t".join(columns) + "\n")
@@ -86,7 +91,7 @@ def main() -> int:
         with log.open("a") as out:
             out.write("\t".join(str(result[c]) for c in columns) + "\n")
         print(f"fuzz_campaign: {target}: {result['execs']} runs in {result['seconds']} s "
-              f"({result['per_second']}/s), cov {result['cov']} ft {result['ft']}, last new "
+              f"({result['per_second']}/s, {result['cpu_seconds']} CPU s), cov {result['cov']} ft {result['ft']}, last new "
               f"feature at {result['last_new']} s, flattened: {result['flat']}, corpus "
               f"{result['corpus']} inputs" + (", CRASHED" if result["crashed"] == "yes" else ""))
         status |= result["crashed"] == "yes"
