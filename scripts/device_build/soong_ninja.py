@@ -56,7 +56,7 @@ rule partialLd
   command = $ldCmd -fuse-ld=lld -nostdlib -no-pie -Wl,-r $in -o $out $ldFlags
   description = $module: partial link $out
 rule genStubSrc
-  command = PYTHONPATH=$aosp/build/soong/cc python3 -m ndkstubgen --arch $arch --api $apiLevel --api-map $apiMap $flags $in $out
+  command = PYTHONPATH=$aosp/build/soong/cc python3 $aosp/build/soong/cc/ndkstubgen/__init__.py --arch $arch --api $apiLevel --api-map $apiMap $flags $in $out
   description = $module: stubs from $in
 rule strip
   command = llvm-strip-14 --strip-all -o $out $in

@@ -401,6 +401,8 @@ func TestVexilctlVendorTree(t *testing.T) {
 	result := _testAidl(t, vexilctlMockModules,
 		withFiles(vexilctlFiles(t, root)),
 		vexilctlPlatform(t, aosp),
+		// product_variables (crtbrand's PLATFORM_SDK_VERSION).
+		android.PrepareForTestWithVariables,
 		// An Android 13 release device: its VNDK version is the platform's, 33.
 		android.FixtureModifyProductVariables(func(v android.FixtureProductVariables) {
 			v.Platform_sdk_version = intPtr(33)
