@@ -188,7 +188,7 @@ def run_ninja(target: str) -> int:
     if done.returncode:  # the failing outputs and the tools' messages, without the command lines
         print("\n".join(line for line in ANSI.sub("", done.stdout).splitlines()
                         if line.startswith(("FAILED", "ninja: error")) or
-                        re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld", line)),
+                        re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)),
               file=sys.stderr)
     return done.returncode
 
