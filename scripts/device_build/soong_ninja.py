@@ -14,7 +14,6 @@ A rerun builds only what changed (the platform's libraries once)."""
 import json
 import os
 import re
-import shlex
 import subprocess
 import sys
 from pathlib import Path
@@ -31,8 +30,9 @@ COMPILED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V
 FUZZERS = ("vexilctl_front_fuzzer", "vexilctl_response_fuzzer")
 LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
 # The VNDK libraries vendor code links against as their sources export them: built here, then
-# reduced to the symbols they define. Their own dependencies outside the tree subset (libbase's
-# sources, libvndksupport's symbol file) are not built: they link without --no-undefined.
+# reduced to the symbols they define. What they link from outside the tree subset is missing
+# (libbase's sources: its library is empty; libvndksupport's symbol file: left out), so they
+# link without --no-undefined.
 VNDK = {"libc++", "libcutils", "libutils"}
 ABSENT = ("out/soong/.intermediates/system/core/libvndksupport/",)
 
@@ -141,10 +141,8 @@ def statement(action: dict) -> list:
         args["libFlags"] = " ".join(f for f in args["libFlags"].split() if not f.startswith(ABSENT))
     if rule == "ld":  # the libraries it links, in place of their tables of contents
         implicits += [f for f in args["libFlags"].split() if f.endswith((".so", ".a"))]
-    if rule == "strip" and not action["Module"].startswith("vendor.") and \
-            not inputs[0].startswith("out/soong/.intermediates/" + PROJECT):
-        rule = "reduce"
-    if rule == "strip":
+    if rule == "strip":  # the project's outputs are stripped, the platform's libraries reduced
+        rule = "strip" if inputs[0].startswith("out/soong/.intermediates/" + PROJECT) else "reduce"
         args = {}
     lines = [f"build {' '.join(action['Outputs'])}: {rule} {' '.join(inputs)}" +
              (f" | {' '.join(implicits)}" if implicits else "")]

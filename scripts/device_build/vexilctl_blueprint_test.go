@@ -32,11 +32,12 @@ var vexilctlTreeModules = map[string][]string{
 		"crtbrand", "crtbegin_so", "crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
 		"libc_llndk_headers"},
 	"system/logging/liblog/Android.bp": {"liblog_headers", "liblog"},
-	"system/core/libcutils/Android.bp": {"libcutils_defaults", "libcutils_headers", "libcutils_sockets", "libcutils"},
-	"system/core/libutils/Android.bp":  {"libutils_headers", "libutils_defaults", "libutils"},
-	"system/libbase/Android.bp":        {"libbase_headers"},
-	"external/libcxx/Android.bp":       {"libc++ defaults", "libc++_static", "libc++"},
-	"external/libcxxabi/Android.bp":    {"libc++abi_defaults", "libc++abi", "libc++demangle"},
+	"system/core/libcutils/Android.bp": {"libcutils_defaults", "libcutils_headers",
+		"libcutils_sockets", "libcutils"},
+	"system/core/libutils/Android.bp": {"libutils_headers", "libutils_defaults", "libutils"},
+	"system/libbase/Android.bp":       {"libbase_headers"},
+	"external/libcxx/Android.bp":      {"libc++ defaults", "libc++_static", "libc++"},
+	"external/libcxxabi/Android.bp":   {"libc++abi_defaults", "libc++abi", "libc++demangle"},
 	"external/googletest/googletest/Android.bp": {"libgtest_defaults", "libgtest_host_defaults",
 		"libgtest", "libgtest_main"},
 }
@@ -93,7 +94,11 @@ cc_library {
 	},
 	export_include_dirs: ["include"],
 }`,
-	"external/fmtlib/Android.bp":             `cc_library_headers { name: "fmtlib_headers", defaults: ["vexilctl_platform"] }`,
+	"external/fmtlib/Android.bp": `
+cc_library_headers {
+	name: "fmtlib_headers",
+	defaults: ["vexilctl_platform"],
+}`,
 	"system/core/libprocessgroup/Android.bp": headerLibrary("libprocessgroup_headers"),
 	"system/core/libsystem/Android.bp":       headerLibrary("libsystem_headers"),
 	"system/core/libbacktrace/Android.bp":    headerLibrary("libbacktrace_headers"),
@@ -136,9 +141,9 @@ func headerLibrary(name string) string {
 // stays).
 var vexilctlReplacedMocks = map[string][]string{
 	"Android.bp": {"libbinder_ndk", "libcutils", "liblog", "libutils"},
-	cc.DefaultCcCommonTestModulesDir + "Android.bp": {"libc", "libm", "libdl", "libc++", "libc++_static", "libc++demangle",
-		"crt_defaults", "crtbrand", "crtbegin_so", "crtend_so", "crtbegin_static",
-		"crtbegin_dynamic", "crtend_android"},
+	cc.DefaultCcCommonTestModulesDir + "Android.bp": {"libc", "libm", "libdl",
+		"libc++", "libc++_static", "libc++demangle", "crt_defaults", "crtbrand", "crtbegin_so",
+		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android"},
 }
 
 // What the project's build files use that neither the tree subset nor the fixture has.
