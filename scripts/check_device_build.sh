@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
 # Checks the vendor-tree build with the real Android 13 build tools taken from an Android source
-# tree: Soong's analysis of the Android.bp files, the aidl compiler's NDK backend, every device
-# source compiled with Soong's flags against the platform headers, the frozen service API, and
-# the SELinux policy built with the tree's platform policy.
+# tree: Soong's analysis of the Android.bp files, the aidl compiler's NDK backend, the frozen
+# service API, every device source compiled and linked for arm64 as Soong's build actions say
+# (bionic, Android 13's libc++, the LLNDK stubs and VNDK libraries), and the SELinux policy built
+# with the tree's platform policy.
 #
 #   AOSP_SRC=/path/to/android-13 bash scripts/check_device_build.sh [STEP...]
 #
 # AOSP_SRC defaults to ../shared/aosp-a13 beside the project when that exists. Scratch files, the
-# Go cache and the built aidl compiler stay under build/device/, so a second run is quick. With
-# no Android tree the check prints why it was skipped and exits 0. STEP names a script in
+# Go cache, the built aidl compiler and the platform's libraries stay under build/device/, so a
+# second run is quick. With AOSP_SRC unset and no ../shared/aosp-a13 the check prints why it was
+# skipped and exits 0; an AOSP_SRC that is no Android tree fails. STEP names a script in
 # scripts/device_build/ (default: all of them, in order).
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -22,8 +24,8 @@ if [ -z "${AOSP_SRC:-}" ]; then
     exit 0
 fi
 if [ ! -d "$AOSP_SRC/build/soong" ]; then
-    echo "check_device_build: skipped: AOSP_SRC=$AOSP_SRC has no build/soong"
-    exit 0
+    echo "check_device_build: AOSP_SRC=$AOSP_SRC is no Android tree: it has no build/soong" >&2
+    exit 1
 fi
 AOSP_SRC=$(cd "$AOSP_SRC" && pwd)
 export ROOT AOSP_SRC
@@ -34,7 +36,7 @@ bash scripts/device_build/deps.sh
 
 steps=("$@")
 if [ ${#steps[@]} -eq 0 ]; then
-    steps=(soong aidl_compile frozen_api clang_compile sepolicy)
+    steps=(soong aidl_compile frozen_api clang_compile link sepolicy)
 fi
 
 status=0

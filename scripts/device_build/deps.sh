@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the device-build check needs (Go for Soong's tests, what the aidl
-# compiler builds with, clang and libc++ for the device sources), when one is missing.
+# compiler builds with, clang, lld, the LLVM tools and ninja for the device build), when one is
+# missing.
 set -euo pipefail
 
 declare -A packages=(
@@ -14,8 +15,9 @@ declare -A packages=(
     [bison]=/usr/bin/bison
     [flex]=/usr/bin/flex
     [clang-14]=/usr/bin/clang++-14
-    [libc++-14-dev]=/usr/lib/llvm-14/include/c++/v1/vector
-    [libc++abi-14-dev]=/usr/lib/llvm-14/lib/libc++abi.a
+    [lld-14]=/usr/lib/llvm-14/bin/ld.lld
+    [llvm-14]=/usr/bin/llvm-ifs-14
+    [ninja-build]=/usr/bin/ninja
 )
 
 source "$(dirname "${BASH_SOURCE[0]}")/../apt_install_missing.sh"

@@ -1,39 +1,250 @@
 // Soong's analysis of the vexilctl vendor tree, on Soong's own test fixture (the aidl_interface
 // registration of aidl_test.go): the project's Android.bp files and sources are placed under
-// vendor/kest/vexilctl in the fixture's mock tree. Copied into system/tools/aidl/build by
-// scripts/device_build/soong.sh, which passes the project root in VEXILCTL_ROOT and reads the
-// module list this test writes to VEXILCTL_MODULES.
+// vendor/kest/vexilctl in the fixture's mock tree, beside the platform libraries it builds
+// against, declared as the Android tree declares them. Copied into system/tools/aidl/build by
+// scripts/device_build/soong.sh, which passes the project root in VEXILCTL_ROOT, the Android tree
+// in VEXILCTL_AOSP, and reads the build actions this test writes to VEXILCTL_ACTIONS.
 package aidl
 
 import (
 	"encoding/json"
 	"os"
 	"path/filepath"
+	"regexp"
 	"sort"
 	"strings"
 	"testing"
 
 	"android/soong/android"
+	"android/soong/cc"
+	"github.com/google/blueprint"
+	"github.com/google/blueprint/parser"
 	"github.com/google/blueprint/proptools"
 )
 
 const vexilctlDir = "vendor/kest/vexilctl"
 
-// What the tree's build files use besides the aidl fixture's mock modules.
+// The platform modules a vendor module builds against, taken by name from the tree's own
+// Android.bp files: their exported headers, their vendor variants (LLNDK stubs, VNDK libraries)
+// and, for the libraries built here, their sources and flags.
+var vexilctlTreeModules = map[string][]string{
+	"bionic/libc/Android.bp": {"crt_and_memtag_defaults", "crt_defaults", "crt_so_defaults",
+		"crtbrand", "crtbegin_so", "crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
+		"libc_llndk_headers"},
+	"system/logging/liblog/Android.bp": {"liblog_headers", "liblog"},
+	"system/core/libcutils/Android.bp": {"libcutils_defaults", "libcutils_headers",
+		"libcutils_sockets", "libcutils"},
+	"system/core/libutils/Android.bp": {"libutils_headers", "libutils_defaults", "libutils"},
+	"system/libbase/Android.bp":       {"libbase_headers"},
+	"external/libcxx/Android.bp":      {"libc++ defaults", "libc++_static", "libc++"},
+	"external/libcxxabi/Android.bp":   {"libc++abi_defaults", "libc++abi", "libc++demangle"},
+	"external/googletest/googletest/Android.bp": {"libgtest_defaults", "libgtest_host_defaults",
+		"libgtest", "libgtest_main"},
+}
+
+// Platform modules whose Android.bp is not in the tree subset, declared as the tree declares
+// them as far as vendor code sees them (exported headers, LLNDK or VNDK), available wherever the
+// tree's modules that use them are.
+var vexilctlPlatformMocks = map[string]string{
+	// bionic's libraries as LLNDK (the fixture's build properties, the tree's symbol files and
+	// exported headers). A tree exports libc's include/ through the versioner, which turns
+	// __INTRODUCED_IN into #if guards; as they are, the same macros become availability
+	// attributes, which declare the same functions at API 33.
+	"bionic/libc/Android.bp": bionicLibrary("libc", `
+	export_include_dirs: ["include"],
+	llndk: {
+		symbol_file: "libc.map.txt",
+		export_headers_as_system: true,
+		export_llndk_headers: ["libc_llndk_headers"],
+	},`),
+	"bionic/libm/Android.bp":  bionicLibrary("libm", `llndk: { symbol_file: "libm.map.txt" },`),
+	"bionic/libdl/Android.bp": bionicLibrary("libdl", `llndk: { symbol_file: "libdl.map.txt" },`),
+	// libbinder_ndk's jni_headers re-export is left out: nothing here includes <jni.h>.
+	"frameworks/native/libs/binder/ndk/Android.bp": `
+cc_library {
+	name: "libbinder_ndk",
+	defaults: ["vexilctl_platform"],
+	llndk: {
+		symbol_file: "libbinder_ndk.map.txt",
+	},
+	export_include_dirs: ["include_cpp", "include_ndk", "include_platform"],
+	stubs: {
+		symbol_file: "libbinder_ndk.map.txt",
+		versions: ["29", "30"],
+	},
+}`,
+	// libbase's sources are not in the subset; libcutils and libutils link it.
+	"system/libbase/mock/Android.bp": `
+cc_library {
+	name: "libbase",
+	defaults: ["vexilctl_platform"],
+	vndk: {
+		enabled: true,
+		support_system_process: true,
+	},
+	header_libs: ["libbase_headers"],
+	export_header_lib_headers: ["libbase_headers"],
+}`,
+	"system/core/libvndksupport/Android.bp": `
+cc_library {
+	name: "libvndksupport",
+	defaults: ["vexilctl_platform"],
+	llndk: {
+		symbol_file: "libvndksupport.map.txt",
+	},
+	export_include_dirs: ["include"],
+}`,
+	"external/fmtlib/Android.bp": `
+cc_library_headers {
+	name: "fmtlib_headers",
+	defaults: ["vexilctl_platform"],
+}`,
+	"system/core/libprocessgroup/Android.bp": headerLibrary("libprocessgroup_headers"),
+	"system/core/libsystem/Android.bp":       headerLibrary("libsystem_headers"),
+	"system/core/libbacktrace/Android.bp":    headerLibrary("libbacktrace_headers"),
+	"defaults/vexilctl/Android.bp": `
+cc_defaults {
+	name: "vexilctl_platform",
+	native_bridge_supported: true,
+	product_available: true,
+	recovery_available: true,
+	vendor_available: true,
+	min_sdk_version: "29",
+	apex_available: ["//apex_available:platform", "//apex_available:anyapex"],
+}`,
+}
+
+func bionicLibrary(name, properties string) string {
+	return `
+cc_library {
+	name: "` + name + `",
+	defaults: ["linux_bionic_supported"],
+	no_libcrt: true,
+	nocrt: true,
+	stl: "none",
+	system_shared_libs: [],
+	recovery_available: true,
+	stubs: {
+		symbol_file: "` + name + `.map.txt",
+		versions: ["29", "current"],
+	},
+	` + properties + `
+}`
+}
+
+func headerLibrary(name string) string {
+	return `cc_library_headers { name: "` + name +
+		`", defaults: ["vexilctl_platform"], export_include_dirs: ["include"] }`
+}
+
+// The fixture's own C++ mocks that the declarations above replace (libbinder_ndk's NDK stub
+// stays).
+var vexilctlReplacedMocks = map[string][]string{
+	"Android.bp": {"libbinder_ndk", "libcutils", "liblog", "libutils"},
+	cc.DefaultCcCommonTestModulesDir + "Android.bp": {"libc", "libm", "libdl",
+		"libc++", "libc++_static", "libc++demangle", "crt_defaults", "crtbrand", "crtbegin_so",
+		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android"},
+}
+
+// What the project's build files use that neither the tree subset nor the fixture has.
 const vexilctlMockModules = `
-cc_library {
-	name: "libgtest_main",
-	vendor_available: true,
-}
-cc_library {
-	name: "libgtest",
-	vendor_available: true,
-}
 cc_library {
 	name: "libclang_rt.fuzzer",
 	vendor_available: true,
 }
 `
+
+func moduleName(m *parser.Module) string {
+	if p, ok := m.GetProperty("name"); ok {
+		if s, ok := p.Value.(*parser.String); ok {
+			return s.Value
+		}
+	}
+	return ""
+}
+
+func setProperty(m *parser.Module, name string, value parser.Expression) {
+	m.RemoveProperty(name)
+	m.Properties = append(m.Properties, &parser.Property{Name: name, Value: value})
+}
+
+// selectModules rewrites a Blueprint file: its variables, and the modules that keep(name) accepts.
+func selectModules(t *testing.T, path string, text []byte, keep func(m *parser.Module) bool) string {
+	file, errs := parser.Parse(path, strings.NewReader(string(text)), parser.NewScope(nil))
+	if len(errs) > 0 {
+		t.Fatalf("%s: %v", path, errs)
+	}
+	var defs []parser.Definition
+	for _, def := range file.Defs {
+		if m, ok := def.(*parser.Module); !ok || keep(m) {
+			defs = append(defs, def)
+		}
+	}
+	out, err := parser.Print(&parser.File{Name: path, Defs: defs})
+	if err != nil {
+		t.Fatal(err)
+	}
+	return string(out)
+}
+
+// The platform libraries as the tree declares them, replacing the fixture's mocks.
+func vexilctlPlatform(t *testing.T, aosp string) android.FixturePreparer {
+	files := map[string]string{}
+	for path, names := range vexilctlTreeModules {
+		text, err := os.ReadFile(filepath.Join(aosp, path))
+		if err != nil {
+			t.Fatal(err)
+		}
+		files[path] = selectModules(t, path, text, func(m *parser.Module) bool {
+			// The fixture's toolchain libraries have no host or ramdisk variants, which vendor
+			// code does not use (bionic's crt objects and headers need none).
+			if !strings.HasPrefix(path, "bionic/") {
+				for _, p := range []string{"host_supported", "ramdisk_available", "vendor_ramdisk_available"} {
+					m.RemoveProperty(p)
+				}
+			}
+			return android.InList(moduleName(m), names)
+		})
+	}
+	for path, text := range vexilctlPlatformMocks {
+		files[path] += text
+	}
+	var preparers []android.FixturePreparer
+	for path, text := range files {
+		preparers = append(preparers, android.FixtureAddTextFile(path, text))
+	}
+	preparers = append(preparers, android.FixtureModifyMockFS(func(fs android.MockFS) {
+		for path, names := range vexilctlReplacedMocks {
+			fs[path] = []byte(selectModules(t, path, fs[path], func(m *parser.Module) bool {
+				return !strings.HasPrefix(m.Type, "cc_") || !android.InList(moduleName(m), names)
+			}))
+		}
+		// The fixture's mock memtag notes have no vendor variant, which a vendor cc_test needs,
+		// and its toolchain prebuilts all name their directory as their file: each gets a file
+		// of its own, named as the clang prebuilts name them for arm64.
+		path := cc.DefaultCcCommonTestModulesDir + "Android.bp"
+		fs[path] = []byte(selectModules(t, path, fs[path], func(m *parser.Module) bool {
+			name := moduleName(m)
+			switch {
+			case strings.HasPrefix(name, "note_memtag_heap_"):
+				setProperty(m, "vendor_available", &parser.Bool{Value: true})
+			case name == "toolchain_libs_defaults":
+				m.RemoveProperty("srcs")
+			case strings.HasPrefix(m.Type, "cc_prebuilt_library_"):
+				file := name + ".so"
+				if strings.HasSuffix(m.Type, "_static") {
+					file = strings.TrimPrefix(name, "prebuilt_") + ".a"
+					if strings.HasPrefix(name, "libclang_rt.") {
+						file = name + "-aarch64-android.a"
+					}
+				}
+				setProperty(m, "srcs", &parser.List{Values: []parser.Expression{&parser.String{Value: file}}})
+			}
+			return true
+		}))
+	}))
+	return android.GroupFixturePreparers(preparers...)
+}
 
 // The project's files that a build reads, as mock source files.
 func vexilctlFiles(t *testing.T, root string) map[string][]byte {
@@ -63,14 +274,96 @@ func vexilctlFiles(t *testing.T, root string) map[string][]byte {
 	return files
 }
 
-// vexilctlModule is what the compile step needs of a C++ module: its sources and own flags.
-type vexilctlModule struct {
-	Name     string
-	Variant  string
-	Srcs     []string
-	Cflags   []string
-	Cppflags []string
-	Installs []string
+// Soong's own flags reach the build actions as ${config.*} variables: a singleton evaluates them
+// with the test's configuration.
+var vexilctlPctx = android.NewPackageContext("android/soong/aidl/vexilctl")
+
+func init() {
+	vexilctlPctx.Import("android/soong/cc/config")
+}
+
+var (
+	vexilctlVariable  = regexp.MustCompile(`\$\{config\.\w+\}`)
+	vexilctlVariables = map[string]string{}
+)
+
+type vexilctlVariableSingleton struct{}
+
+func (vexilctlVariableSingleton) GenerateBuildActions(ctx android.SingletonContext) {
+	ctx.VisitAllModules(func(m android.Module) {
+		if _, ok := m.(*cc.Module); !ok {
+			return
+		}
+		for _, params := range m.BuildParamsForTests() {
+			for _, arg := range params.Args {
+				for _, name := range vexilctlVariable.FindAllString(arg, -1) {
+					if _, done := vexilctlVariables[name]; done {
+						continue
+					}
+					value, err := ctx.Eval(vexilctlPctx, name)
+					if err != nil {
+						ctx.Errorf("%s: %s", name, err)
+					}
+					vexilctlVariables[name] = value
+				}
+			}
+		}
+	})
+}
+
+// vexilctlAction is one build action of Soong's, its paths relative to the tree's root and its
+// arguments with Soong's variables evaluated.
+type vexilctlAction struct {
+	Module    string
+	Variant   string
+	Rule      string
+	Inputs    []string
+	Implicits []string
+	Outputs   []string
+	Args      map[string]string
+}
+
+// The actions of a module variant that compile, archive, link or generate stubs.
+func moduleActions(m android.TestingModule, name, variant string) []vexilctlAction {
+	var actions []vexilctlAction
+	seen := map[string]bool{}
+	for _, out := range m.AllOutputs() {
+		params := m.Output(out)
+		rule := params.Rule.String()
+		rule = rule[strings.LastIndex(rule, ".")+1:]
+		var first string
+		if params.Output != nil {
+			first = params.Output.String()
+		} else {
+			first = params.Outputs[0].String()
+		}
+		if seen[first] || !android.InList(rule, []string{"cc", "ar", "ld", "partialLd", "genStubSrc", "strip"}) {
+			continue
+		}
+		seen[first] = true
+		action := vexilctlAction{Module: name, Variant: variant, Rule: rule, Args: map[string]string{}}
+		paths := func(one android.Path, many android.Paths) []string {
+			list := many.Strings()
+			if one != nil {
+				list = append([]string{one.String()}, list...)
+			}
+			return list
+		}
+		action.Inputs = paths(params.Input, params.Inputs)
+		action.Implicits = paths(params.Implicit, params.Implicits)
+		for _, o := range append(android.WritablePaths{params.Output}, params.Outputs...) {
+			if o != nil {
+				action.Outputs = append(action.Outputs, o.String())
+			}
+		}
+		for key, arg := range params.Args {
+			action.Args[key] = vexilctlVariable.ReplaceAllStringFunc(arg, func(v string) string {
+				return vexilctlVariables[v]
+			})
+		}
+		actions = append(actions, action)
+	}
+	return actions
 }
 
 func vendorVariant(t *testing.T, ctx *android.TestContext, name string, kind string) string {
@@ -84,25 +377,54 @@ func vendorVariant(t *testing.T, ctx *android.TestContext, name string, kind str
 	return ""
 }
 
+// The build actions of module variants and of everything they depend on for the device.
+func closureActions(ctx *android.TestContext, roots []blueprint.Module) []vexilctlAction {
+	var actions []vexilctlAction
+	seen := map[blueprint.Module]bool{}
+	var visit func(m blueprint.Module)
+	visit = func(m blueprint.Module) {
+		variant := ctx.ModuleSubDir(m)
+		if seen[m] || !strings.HasPrefix(variant, "android_vendor") || !strings.Contains(variant, "arm64") {
+			return
+		}
+		seen[m] = true
+		name := ctx.ModuleName(m)
+		actions = append(actions, moduleActions(ctx.ModuleForTests(name, variant), name, variant)...)
+		ctx.VisitDirectDeps(m, visit)
+	}
+	for _, m := range roots {
+		visit(m)
+	}
+	return actions
+}
+
 func TestVexilctlVendorTree(t *testing.T) {
-	root := os.Getenv("VEXILCTL_ROOT")
-	if root == "" {
-		t.Skip("VEXILCTL_ROOT not set")
+	root, aosp := os.Getenv("VEXILCTL_ROOT"), os.Getenv("VEXILCTL_AOSP")
+	if root == "" || aosp == "" {
+		t.Skip("VEXILCTL_ROOT or VEXILCTL_AOSP not set")
 	}
 	result := _testAidl(t, vexilctlMockModules,
 		withFiles(vexilctlFiles(t, root)),
+		vexilctlPlatform(t, aosp),
+		// product_variables (crtbrand's PLATFORM_SDK_VERSION).
+		android.PrepareForTestWithVariables,
+		// An Android 13 release device: its VNDK version is the platform's, 33.
 		android.FixtureModifyProductVariables(func(v android.FixtureProductVariables) {
+			v.Platform_sdk_version = intPtr(33)
+			v.Platform_sdk_codename = proptools.StringPtr("REL")
+			v.Platform_sdk_final = proptools.BoolPtr(true)
+			v.Platform_version_active_codenames = []string{}
 			v.DeviceVndkVersion = proptools.StringPtr("current")
 			v.Platform_vndk_version = proptools.StringPtr("33")
+		}),
+		android.FixtureRegisterWithContext(func(ctx android.RegistrationContext) {
+			ctx.RegisterSingletonType("vexilctl_variables", func() android.Singleton {
+				return vexilctlVariableSingleton{}
+			})
 		}),
 	).RunTest(t)
 	ctx := result.TestContext
 
-	// The service package's NDK library as the tool links it.
-	ndk := vendorVariant(t, ctx, "vendor.kest.hardware.vexil_svc-V1-ndk", "_shared")
-	ctx.ModuleForTests("vendor.kest.hardware.vexil_svc-V1-ndk", ndk)
-
-	// Every C++ module: the sources it compiles, its own flags, where it installs.
 	wanted := map[string]struct {
 		variant  string
 		needs    []string // sources the module must compile
@@ -115,89 +437,79 @@ func TestVexilctlVendorTree(t *testing.T) {
 		"vexilctl_front_fuzzer":    {"_fuzzer", []string{"fuzz/front_fuzzer.cpp"}, nil},
 		"vexilctl_response_fuzzer": {"_fuzzer", []string{"fuzz/response_fuzzer.cpp"}, nil},
 	}
-	var modules []vexilctlModule
 	names := make([]string, 0, len(wanted))
 	for name := range wanted {
 		names = append(names, name)
 	}
 	sort.Strings(names)
+	var roots []blueprint.Module
+	var actions []vexilctlAction
 	for _, name := range names {
 		want := wanted[name]
 		variant := vendorVariant(t, ctx, name, want.variant)
 		m := ctx.ModuleForTests(name, variant)
-		module := vexilctlModule{Name: name, Variant: variant}
-		for _, out := range m.AllOutputs() {
-			if !strings.HasSuffix(out, ".o") || !strings.Contains(out, "/obj/") {
-				continue
-			}
-			params := m.Output(out)
-			if params.Input == nil {
-				continue
-			}
-			src := params.Input.String()
-			if !strings.HasPrefix(src, vexilctlDir+"/") {
-				continue
-			}
-			module.Srcs = append(module.Srcs, strings.TrimPrefix(src, vexilctlDir+"/"))
-			if module.Cflags == nil {
-				module.Cflags = ownFlags(params.Args["cFlags"])
-				module.Cppflags = ownFlags(params.Args["cppFlags"])
+		own := moduleActions(m, name, variant)
+		if want.variant == "_fuzzer" { // compiled only: the fuzzers' runtime is not in the tree
+			actions = append(actions, own...)
+		} else {
+			roots = append(roots, m.Module())
+		}
+		var srcs []string
+		for _, action := range own {
+			if action.Rule == "cc" && strings.HasPrefix(action.Inputs[0], vexilctlDir+"/") {
+				srcs = append(srcs, strings.TrimPrefix(action.Inputs[0], vexilctlDir+"/"))
 			}
 		}
-		sort.Strings(module.Srcs)
 		for _, need := range want.needs {
-			if !android.InList(need, module.Srcs) {
-				t.Errorf("%s does not compile %s (compiles %v)", name, need, module.Srcs)
+			if !android.InList(need, srcs) {
+				t.Errorf("%s does not compile %s (compiles %v)", name, need, srcs)
 			}
 		}
+		var installs []string
 		for _, file := range m.Module().FilesToInstall() {
-			module.Installs = append(module.Installs, android.NormalizePathForTesting(file))
+			installs = append(installs, android.NormalizePathForTesting(file))
 		}
 		for _, install := range want.installs {
 			path := "target/product/test_device/" + install
-			if !android.InList(path, module.Installs) {
-				t.Errorf("%s is not installed as /%s (installs %v)", name, install, module.Installs)
+			if !android.InList(path, installs) {
+				t.Errorf("%s is not installed as /%s (installs %v)", name, install, installs)
 			}
 		}
-		modules = append(modules, module)
 		if name == "vexilctl_unit_tests" {
-			checkGoldenData(t, ctx, m, module)
+			checkGoldenData(t, ctx, m, installs)
 		}
 	}
 
-	if out := os.Getenv("VEXILCTL_MODULES"); out != "" {
-		data, _ := json.MarshalIndent(modules, "", "  ")
+	if out := os.Getenv("VEXILCTL_ACTIONS"); out != "" {
+		data, _ := json.MarshalIndent(struct {
+			ApiLevels map[string]int
+			Actions   []vexilctlAction
+		}{android.GetApiLevelsMap(result.Config), append(actions, closureActions(ctx, roots)...)}, "", " ")
 		if err := os.WriteFile(out, data, 0o644); err != nil {
 			t.Fatal(err)
 		}
 	}
 }
 
-// The flags a module gives itself: Soong's own come in as ${config.*} variables, the include
-// paths as -I, both left to the compile step.
-func ownFlags(args string) []string {
-	var own []string
-	for _, f := range strings.Fields(args) {
-		if !strings.HasPrefix(f, "${") && !strings.HasPrefix(f, "-I") && !strings.HasPrefix(f, "-isystem") {
-			own = append(own, f)
-		}
-	}
-	return own
-}
-
 // Tradefed runs a gtest from /, and the cc_test's data is installed beside the binary: the golden
 // directory the unit tests are compiled with must be where the golden files land.
-func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, module vexilctlModule) {
+func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, installs []string) {
 	golden := ""
-	for _, f := range module.Cflags {
-		if f = strings.Trim(f, "'"); strings.HasPrefix(f, "-DGOLDEN_DIR=") {
-			golden = strings.Trim(strings.TrimPrefix(f, "-DGOLDEN_DIR="), `"`)
+	for _, action := range moduleActions(m, "", "") {
+		if action.Rule != "cc" {
+			continue
 		}
+		for _, f := range strings.Fields(action.Args["cFlags"]) {
+			if f = strings.Trim(f, "'"); strings.HasPrefix(f, "-DGOLDEN_DIR=") {
+				golden = strings.Trim(strings.TrimPrefix(f, "-DGOLDEN_DIR="), `"`)
+			}
+		}
+		break
 	}
 	if !filepath.IsAbs(golden) {
 		golden = filepath.Join("/", golden)
 	}
-	installDir := "/" + filepath.Dir(strings.TrimPrefix(module.Installs[0], "target/product/test_device/"))
+	installDir := "/" + filepath.Dir(strings.TrimPrefix(installs[0], "target/product/test_device/"))
 	entries := android.AndroidMkEntriesForTest(t, ctx, m.Module())
 	data := entries[0].EntryMap["LOCAL_TEST_DATA"]
 	if len(data) == 0 {

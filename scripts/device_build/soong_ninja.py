@@ -1,0 +1,204 @@
+#!/usr/bin/env python3
+"""Replays Soong's build actions for the device (build/device/actions.json, written by the soong
+step) with ninja, in build/device/tree/: a tree laid out as Soong sees it (the Android tree's
+projects, the project under vendor/kest/vexilctl, the aidl compiler's output where Soong
+generates it, out/ for everything built), so every command runs as Soong wrote it, from the
+tree's root, with clang 14 and lld for aarch64-linux-android33.
+
+    soong_ninja.py compile   every source of the device modules, the generated library's too
+    soong_ninja.py link      the platform's stubs and libraries, then the tool, its library and
+                             the unit tests, linked
+
+A rerun builds only what changed (the platform's libraries once)."""
+
+import json
+import os
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT, AOSP, SCRATCH = (Path(os.environ[k]) for k in ("ROOT", "AOSP_SRC", "SCRATCH"))
+TREE = SCRATCH / "tree"
+PROJECT = "vendor/kest/vexilctl/"
+NDK_GEN = ("out/soong/.intermediates/vendor/kest/vexilctl/service/aidl/"
+           "vendor.kest.hardware.vexil_svc-V1-ndk-source/gen")
+# What the compile step builds, and what the link step links: the device modules and the
+# generated library. The fuzzers are compiled only (their runtime is not in the tree), and only
+# their own sources: the others differ from the tool's by the coverage flags.
+COMPILED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
+FUZZERS = ("vexilctl_front_fuzzer", "vexilctl_response_fuzzer")
+LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
+# The VNDK libraries vendor code links against as their sources export them: built here, then
+# reduced to the symbols they define. What they link from outside the tree subset is missing
+# (libbase's sources: its library is empty; libvndksupport's symbol file: left out), so they
+# link without --no-undefined.
+VNDK = {"libc++", "libcutils", "libutils"}
+ABSENT = ("out/soong/.intermediates/system/core/libvndksupport/",)
+
+RULES = """
+rule cc
+  command = $ccCmd -c $cFlags -MD -MF $out.d -o $out $in
+  depfile = $out.d
+  deps = gcc
+  description = $module: compile $in
+rule ar
+  command = rm -f $out && llvm-ar-14 $arFlags $out @$out.rsp
+  rspfile = $out.rsp
+  rspfile_content = $in
+  description = $module: archive $out
+rule ld
+  command = $ldCmd $crtBegin @$out.rsp $libFlags $crtEnd -o $out $ldFlags $extraLibFlags
+  rspfile = $out.rsp
+  rspfile_content = $in
+  description = $module: link $out
+rule partialLd
+  command = $ldCmd -fuse-ld=lld -nostdlib -no-pie -Wl,-r $in -o $out $ldFlags
+  description = $module: partial link $out
+rule genStubSrc
+  command = PYTHONPATH=$aosp/build/soong/cc python3 $aosp/build/soong/cc/ndkstubgen/__init__.py --arch $arch --api $apiLevel --api-map $apiMap $flags $in $out
+  description = $module: stubs from $in
+rule strip
+  command = llvm-strip-14 --strip-all -o $out $in
+  description = $module: strip $out
+rule reduce
+  command = llvm-ifs-14 --input-format=ELF --output-ifs=$out.ifs $in && grep -v 'Undefined: true' $out.ifs >$out.defined.ifs && llvm-ifs-14 --input-format=IFS --output-elf=$out $out.defined.ifs
+  description = $module: reduce $out to its dynamic symbols
+"""
+
+
+def tool(path: str) -> str:
+    """The Debian clang 14 tool for a prebuilt clang's path."""
+    return Path(path).name + "-14"
+
+
+def escape(text: str) -> str:
+    return text.replace("$", "$$")
+
+
+def archived_symlinks(top: Path) -> dict:
+    """Files of the tree that its projects keep as symbolic links, archived as a file holding the
+    link's target (libcutils' include_outside_system, liblog's include_vndk, ...)."""
+    found = {}
+    for path in top.rglob("*"):
+        if path.is_file() and not path.is_symlink() and path.stat().st_size < 256:
+            text = path.read_bytes()
+            if text.startswith(b"../") and b"\n" not in text and (path.parent / text.decode()).exists():
+                found[path] = text.decode()
+    return found
+
+
+def link_tree(source: Path, dest: Path, links: dict) -> None:
+    """dest mirrors source: a symbolic link to it, or, where archived links lie beneath, a
+    directory of links to its entries with those links restored."""
+    if source in links:
+        dest.symlink_to(links[source])
+    elif not source.is_dir() or not any(link.is_relative_to(source) for link in links):
+        dest.symlink_to(source)
+    else:
+        dest.mkdir()
+        for entry in source.iterdir():
+            link_tree(entry, dest / entry.name, links)
+
+
+def make_tree(api_levels: dict) -> None:
+    projects = ("bionic", "external", "frameworks", "system")
+    links = {p: t for d in projects for p, t in archived_symlinks(AOSP / d).items()}
+    stamp = TREE / "out/tree.stamp"
+    state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links))])
+    if not stamp.exists() or stamp.read_text() != state:
+        for entry in TREE.glob("*"):
+            if entry.name != "out":
+                subprocess.run(["rm", "-rf", str(entry)], check=True)
+        (TREE / "out").mkdir(parents=True, exist_ok=True)
+        for project in projects:
+            link_tree(AOSP / project, TREE / project, links)
+        places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk"}
+        places.update({f"defaults/cc/common/{name}-aarch64-android.a": SCRATCH / "prebuilts" / f"{name}.a"
+                       for name in ("libclang_rt.builtins", "libclang_rt.ubsan_minimal")})
+        for rel, target in places.items():
+            (TREE / rel).parent.mkdir(parents=True, exist_ok=True)
+            (TREE / rel).unlink(missing_ok=True)
+            (TREE / rel).symlink_to(target)
+        stamp.write_text(state)
+    levels = TREE / "out/soong/api_levels.json"
+    levels.parent.mkdir(parents=True, exist_ok=True)
+    text = json.dumps(api_levels, sort_keys=True)
+    if not levels.exists() or levels.read_text() != text:
+        levels.write_text(text)
+
+
+def statement(action: dict) -> list:
+    rule, args = action["Rule"], dict(action["Args"])
+    if "ccCmd" in args:
+        args["ccCmd"] = tool(args["ccCmd"])
+    if "ldCmd" in args:
+        args["ldCmd"] = tool(args["ldCmd"])
+    inputs = action["Inputs"]
+    implicits = [p for p in action["Implicits"] or [] if not p.endswith(".toc")]
+    if rule == "ld" and action["Module"] in VNDK:
+        args["ldFlags"] = args["ldFlags"].replace("-Wl,--no-undefined ", "")
+        args["libFlags"] = " ".join(f for f in args["libFlags"].split() if not f.startswith(ABSENT))
+    if rule == "ld":  # the libraries it links, in place of their tables of contents
+        implicits += [f for f in args["libFlags"].split() if f.endswith((".so", ".a"))]
+    if rule == "strip":  # the project's outputs are stripped, the platform's libraries reduced
+        rule = "strip" if inputs[0].startswith("out/soong/.intermediates/" + PROJECT) else "reduce"
+        args = {}
+    lines = [f"build {' '.join(action['Outputs'])}: {rule} {' '.join(inputs)}" +
+             (f" | {' '.join(implicits)}" if implicits else "")]
+    lines += [f"  {key} = {escape(value)}" for key, value in sorted(args.items())]
+    lines.append(f"  module = {action['Module']}")
+    return lines
+
+
+def write_ninja() -> tuple:
+    data = json.loads((SCRATCH / "actions.json").read_text())
+    make_tree(data["ApiLevels"])
+    lines = [f"builddir = out", f"aosp = {AOSP}", RULES]
+    outputs, compiled, linked = set(), [], []
+    shared = {a["Inputs"][0] for a in data["Actions"] if a["Rule"] == "cc" and a["Module"] in COMPILED}
+    for action in data["Actions"]:
+        out = action["Outputs"][0]
+        if out in outputs:
+            continue
+        outputs.add(out)
+        lines += statement(action)
+        if action["Rule"] == "cc" and (action["Module"] in COMPILED or (
+                action["Module"] in FUZZERS and action["Inputs"][0] not in shared)):
+            compiled.append(out)
+        if action["Module"] in LINKED and action["Rule"] == "ld":
+            linked.append(out)
+    lines += [f"build compile: phony {' '.join(compiled)}", f"build link: phony {' '.join(linked)}"]
+    path = TREE / "out/build.ninja"
+    text = "\n".join(lines) + "\n"
+    if not path.exists() or path.read_text() != text:
+        path.write_text(text)
+    return compiled, linked
+
+
+ANSI = re.compile(r"\x1b\[[0-9;]*m")
+
+
+def run_ninja(target: str) -> int:
+    done = subprocess.run(["nice", "-n", "10", "ninja", "-f", "out/build.ninja", "-k", "0", "-j2",
+                           target], cwd=TREE, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True)
+    if done.returncode:  # the failing outputs and the tools' messages, without the command lines
+        print("\n".join(line for line in ANSI.sub("", done.stdout).splitlines()
+                        if line.startswith(("FAILED", "ninja: error")) or
+                        re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)),
+              file=sys.stderr)
+    return done.returncode
+
+
+def main() -> int:
+    step = sys.argv[1]
+    compiled, linked = write_ninja()
+    status = run_ninja(step)
+    count = len(compiled) if step == "compile" else len(linked)
+    print(f"{step}: {count} {'sources' if step == 'compile' else 'outputs'} for the device")
+    return status
+
+
+if __name__ == "__main__":
+    sys.exit(main())
