@@ -51,11 +51,13 @@ class LogSink {
     bool bound() const { return fd_ >= 0; }
 
     // The texts of the lines this process logged so far, one after another. Other processes
-    // (tests running beside this one) may log to the sink meanwhile: their lines are dropped.
+    // (tests or fuzzers running beside this one) may log to the sink meanwhile: their lines are
+    // dropped, and reading stops after 2 s even while they keep logging.
     std::string texts() {
         std::string all;
         pollfd p{fd_, POLLIN, 0};
-        while (poll(&p, 1, 100) == 1) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(2);
+        while (std::chrono::steady_clock::now() < deadline && poll(&p, 1, 100) == 1) {
             char buf[8192];
             alignas(cmsghdr) char control[CMSG_SPACE(sizeof(ucred))];
             iovec iov{buf, sizeof(buf)};
