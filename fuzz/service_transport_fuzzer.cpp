@@ -20,8 +20,9 @@
 
 namespace {
 
-// Requests of one input that are carried out; the rest are dropped.
-constexpr int kMaxRequests = 64;
+// Requests of one input that are carried out (a client makes a few per connection); the rest
+// are dropped.
+constexpr int kMaxRequests = 8;
 
 struct Service {
     std::unique_ptr<tarnmodem::SharedState> state =
