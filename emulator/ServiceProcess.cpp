@@ -36,6 +36,7 @@ bool ServiceProcess::start(ServicePublication publication, std::string& error) {
         error = std::string("cannot start the service: ") + strerror(errno);
         return false;
     }
+    state_.share();
     pid_t parent = getpid();
     pid_t pid = fork();
     if (pid == 0) {

@@ -81,6 +81,12 @@ void SharedState::replace(const DeviceState& device, const FaultTable& faults) {
     publish();
 }
 
+void SharedState::share() {
+    Lock lock(*this);
+    shared_ = true;
+    if (unpublished_) publish();
+}
+
 void SharedState::refresh() {
     if (seen_version_ == region_->version) return;
     Json decoded = Json::parse(region_->text, region_->text + region_->length, nullptr, false);
@@ -98,6 +104,11 @@ void SharedState::refresh() {
 }
 
 void SharedState::publish() {
+    if (!shared_) {
+        unpublished_ = true;
+        return;
+    }
+    unpublished_ = false;
     std::string text = to_json_line(encode(copy_.device, copy_.faults));
     if (text.size() > kCapacity) return;
     if (text.size() == region_->length && memcmp(text.data(), region_->text, text.size()) == 0) {

@@ -1,7 +1,8 @@
 // The device state and the injected faults, shared by the daemon's two processes: the main one
 // (command socket, reloads) and the service process forked from it, which may die on its own.
 // They live in an anonymous shared mapping as state-file JSON under a process-shared lock; each
-// process works on a decoded copy and decodes again only after another process changed it.
+// process works on a decoded copy and decodes again only after another process changed it. Until
+// a second process is forked, the one process's copy is the state and nothing is encoded.
 #pragma once
 
 #include <pthread.h>
@@ -47,6 +48,9 @@ class SharedState {
     // Puts a new state and new faults in place of the old (a reload).
     void replace(const DeviceState& device, const FaultTable& faults);
 
+    // Before forking a process that will share the state: from now on every change is published.
+    void share();
+
     // In a process just forked: the copy may have been taken half-changed, so decode afresh.
     void forget_copy() { seen_version_ = ~uint64_t{0}; }
 
@@ -76,6 +80,9 @@ class SharedState {
     Region* region_;
     Copy copy_;
     uint64_t seen_version_ = 0;
+    // Whether another process may read the region; until then publishing is put off.
+    bool shared_ = false;
+    bool unpublished_ = false;
 };
 
 }  // namespace tarnmodem

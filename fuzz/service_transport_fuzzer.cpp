@@ -2,7 +2,7 @@
 // frames as a connection's reader cuts them, and each request frame is carried out on the
 // emulator's log-control service through the generated stub, which decodes the parcel. Nothing
 // touches the disk. The device state lives on from input to input, as the daemon's does from one
-// client to the next (putting it back each time publishes it twice and halves the speed): a
+// client to the next (putting it back each time would cost as much as the requests): a
 // finding that does not recur alone is replayed with the inputs before it.
 #include <android/binder_ibinder.h>
 

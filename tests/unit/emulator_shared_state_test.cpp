@@ -36,6 +36,7 @@ TEST(EmulatorSharedState, ForkedProcessSeesEveryChangeWhole) {
     EmulatorConfig want = changed_config();
     auto state = SharedState::create(default_device_state(), {});
     ASSERT_TRUE(state);
+    state->share();
     pid_t child = fork();
     if (child == 0) {
         state->replace(want.device, want.faults);
