@@ -3,7 +3,8 @@
 # current/, every version compatible with the one before, the newest frozen version equal to
 # current/ (the tool links its library), and each version's .hash the tree's hash rule
 # (system/tools/aidl/build: `latest-version` for the newest frozen version, the previous
-# version's number for later ones).
+# version's number for later ones). With API_UPDATE=1 the dump first replaces current/ (what
+# `m <name>-update-api` does).
 set -euo pipefail
 aidl=$(bash "$ROOT/scripts/device_build/build_aidl.sh")
 messages=$AOSP_SRC/system/tools/aidl/build
@@ -15,6 +16,10 @@ status=0
 rm -rf "$dump"
 mapfile -t sources < <(find "$ROOT/service/aidl" -path "$api" -prune -o -name '*.aidl' -print | LC_ALL=C sort)
 "$aidl" --dumpapi --structured --stability vintf -I "$ROOT/service/aidl" --out "$dump" "${sources[@]}"
+if [ "${API_UPDATE:-}" = 1 ]; then
+    rm -rf "$api/current"
+    cp -r "$dump" "$api/current"
+fi
 
 check() { # LEVEL OLD NEW MESSAGE_FILE
     if ! "$aidl" --stability vintf --checkapi="$1" "$2" "$3"; then

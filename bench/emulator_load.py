@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""The emulator under load: N concurrent `vexilctl state modem`, every answer and every log line kept.
+"""The emulator under load: N concurrent `vexilctl state modem`, every answer and every log line kept
+(run by bench/run.sh after the measurements).
 
 Starts tarnmodem in a network namespace of its own, in which the local datagram queue is raised
 to 600 lines as Android's init raises it for the log socket (a new namespace starts at 10), runs
@@ -7,7 +8,7 @@ N commands at once, stops the emulator and checks that each command printed the 
 that the journal holds each command's two calls and that the log holds each command's two lines.
 Prints the counts and the time taken. Also checks `tarnmodem --help`.
 
-Usage: load_test.py VEXILCTL TARNMODEM [N]   (N defaults to 1000)
+Usage: emulator_load.py VEXILCTL TARNMODEM [N]   (N defaults to 1000)
 """
 import collections
 import json
@@ -19,7 +20,7 @@ import tempfile
 import time
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "e2e"))
 from namespace import reexec_in_own_namespace  # noqa: E402
 
 NETNS_MARK = "VEXIL_LOAD_NETNS"

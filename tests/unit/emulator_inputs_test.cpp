@@ -1,68 +1,16 @@
-// The emulator's record tables agree with the interface definition (for the operations the tool
-// calls, the fault matrix holds the operation table to it: the state file refuses a fault on an
-// unknown operation, and a result fault on one without an int); log datagram decoding; its
-// command line.
+// The emulator's log datagram decoding and its command line.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <regex>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "CommandLine.h"
 #include "LogSink.h"
-#include "RecordFields.h"
 
 namespace tarnmodem {
 namespace {
 
-std::string read_aidl(const std::string& type) {
-    std::ifstream in(std::string(AIDL_DIR) + "/vendor/kest/hardware/vexil_svc/" + type + ".aidl");
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-// Field names of a parcelable, in declaration order.
-std::vector<std::string> aidl_fields(const std::string& type) {
-    std::string text = read_aidl(type);
-    std::vector<std::string> names;
-    std::regex field(R"(^\s*(int|String)\s+(\w+)\s*;)", std::regex::multiline);
-    for (std::sregex_iterator it(text.begin(), text.end(), field), end; it != end; ++it) {
-        names.push_back((*it)[2]);
-    }
-    return names;
-}
-
-template <typename Record>
-std::vector<std::string> table_fields() {
-    std::vector<std::string> names;
-    for (const auto& f : RecordFields<Record>::fields()) names.push_back(f.name);
-    return names;
-}
-
-template <typename Record>
-void expect_fields_match_aidl() {
-    const char* name = RecordFields<Record>::kName;
-    std::vector<std::string> from_aidl = aidl_fields(name);
-    ASSERT_FALSE(from_aidl.empty()) << name;
-    EXPECT_EQ(table_fields<Record>(), from_aidl) << name;
-}
-
-TEST(EmulatorRecords, FieldTablesFollowTheInterfaceDefinition) {
-    expect_fields_match_aidl<svc::AgdspLogSettings>();
-    expect_fields_match_aidl<svc::CellularLogSettings>();
-    expect_fields_match_aidl<svc::CellularModemIoSettings>();
-    expect_fields_match_aidl<svc::ConnectivityLogSettings>();
-    expect_fields_match_aidl<svc::MipiLogConfig>();
-    expect_fields_match_aidl<svc::PmSensorHubLogSettings>();
-    expect_fields_match_aidl<svc::SensorHubLogSettings>();
-    expect_fields_match_aidl<svc::SubsystemPresence>();
-    expect_fields_match_aidl<svc::SubsystemStorageParam>();
-}
-
-TEST(EmulatorRecords, LogDatagramsDecode) {
+TEST(EmulatorInputs, LogDatagramsDecode) {
     struct Case {
         std::string datagram;
         std::string line;  // the JSON line, or "null"
@@ -85,7 +33,7 @@ TEST(EmulatorRecords, LogDatagramsDecode) {
     }
 }
 
-TEST(EmulatorRecords, CommandLine) {
+TEST(EmulatorInputs, CommandLine) {
     struct Case {
         std::vector<const char*> argv;
         bool ok;
