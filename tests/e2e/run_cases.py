@@ -28,7 +28,8 @@ HERE = Path(__file__).resolve().parent
 
 
 def spec_of(case: Case, args) -> dict:
-    return {"case": case, "tarnmodem": args.tarnmodem, "vexilctl": args.vexilctl,
+    return {"case": case, "tarnmodem": os.path.abspath(args.tarnmodem),
+            "vexilctl": os.path.abspath(args.vexilctl),
             "wrap": shlex.split(args.wrap or ""), "timeout": case.timeout * args.slowdown}
 
 
