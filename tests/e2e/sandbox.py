@@ -108,7 +108,8 @@ def run(job: dict) -> dict:
             job["tarnmodem"] = shutil.copy(job["tarnmodem"], tmp + "/idlemodem")
         other = None
         if box.daemon == "two":  # a second process of that name
-            other = subprocess.Popen([shutil.copy(shutil.which("sleep"), tmp + "/tarnmodem"), "600"])
+            sleep = shutil.copy(shutil.which("sleep"), tmp + "/tarnmodem")
+            other = subprocess.Popen([sleep, "600"])
         try:
             out = execute.execute(job)
         finally:
