@@ -131,12 +131,6 @@ def execute(job: dict) -> dict:
                         out.update(stdout=done.stdout, stderr=done.stderr, exit=done.returncode)
                     except subprocess.TimeoutExpired as e:
                         out.update(stdout=e.stdout or b"", stderr=e.stderr or b"", exit=None)
-                if case.emulator_gone:
-                    # Its sockets close before the process is gone: give it a moment to end.
-                    try:
-                        proc.wait(STOP_SECONDS)
-                    except subprocess.TimeoutExpired:
-                        pass
                 out["alive_after_command"] = proc.poll() is None
         finally:
             for sock in held:
