@@ -40,14 +40,14 @@ class Sandbox:
     files: Dict[str, list] = field(default_factory=dict)  # path to [content matcher, mode]
 
 
-def parse_directive(case, key: str, value: str, golden_dir, seed: str, where: str):
+def parse_directive(case, key: str, value: str, golden_dir, seed: str):
     """Adds one sandbox directive to the case."""
     box = case.sandbox = case.sandbox or Sandbox()
     forms = {"sandbox": r"", "tool": r"[\w.-]+ .*\S.*", "dir": r"/data/\S+( 0?[0-7]{3})?",
              "daemon": r"one|none|two", "repeat": r"[1-9]\d*", "file": r"/data/\S+ .+",
              "mode": r"/data/\S+ 0?[0-7]{3}"}
     if not re.fullmatch(forms[key], value):
-        raise cf.CaseError(f"{where}: '{key}' takes {forms[key] or 'no value'}, got '{value}'")
+        raise ValueError(f"'{key}' takes {forms[key] or 'no value'}, got '{value}'")
     first, _, rest = value.partition(" ")
     if key == "tool":
         box.tools[first] = rest
@@ -56,8 +56,7 @@ def parse_directive(case, key: str, value: str, golden_dir, seed: str, where: st
     elif key in ("daemon", "repeat"):
         setattr(box, key, value if key == "daemon" else int(value))
     elif key == "file":
-        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, golden_dir, seed,
-                                                                        where)
+        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, golden_dir, seed)
     elif key == "mode":
         box.files.setdefault(first, [None, None])[1] = int(rest, 8)
 
