@@ -143,40 +143,30 @@ def judge(case: Case, seen: dict) -> list:
     return problems
 
 
-def one(case: Case, args, prefix: list):
-    """Runs and judges one case: 'passed' or 'failed', and the lines to print."""
-    start = time.monotonic()
-    try:
-        problems = judge(case, run_case(case, args, prefix))
-    except (RuntimeError, subprocess.TimeoutExpired, pickle.UnpicklingError, EOFError) as e:
-        problems = [str(e)]
-    took = time.monotonic() - start
-    if not problems:
-        return "passed", f"ok   {case.name} ({took:.2f} s)"
-    return "failed", "\n".join([f"FAIL {case.name} ({case.path}:{case.line}, {took:.2f} s)"] +
-                               ["  - " + p for p in problems])
-
-
 def run(cases: list, args) -> int:
     """Runs the cases (those named --only, if given) and prints each outcome and the counts."""
-    cases = [c for c in cases if args.only in (None, c.name)]
-    prefix, jobs = namespace_prefix(), args.jobs
+    cases, prefix, failed = [c for c in cases if args.only in (None, c.name)], namespace_prefix(), []
     if not prefix:
         print("run_cases: no network namespace available; running cases one at a time",
               file=sys.stderr)
-        jobs = 1
-    lock, counts = threading.Lock(), {"passed": 0, "failed": 0}
+    lock = threading.Lock()
 
     def report(case: Case):
-        outcome, text = one(case, args, prefix)
+        start = time.monotonic()
+        try:
+            problems = judge(case, run_case(case, args, prefix))
+        except (RuntimeError, subprocess.TimeoutExpired, pickle.UnpicklingError, EOFError) as e:
+            problems = [str(e)]
+        head = f"{case.name} ({case.path}:{case.line}, {time.monotonic() - start:.2f} s)"
         with lock:
-            counts[outcome] += 1
-            print(text, flush=True)
+            failed.extend([case] if problems else [])
+            print("\n".join([f"FAIL {head}"] + ["  - " + p for p in problems]) if problems
+                  else f"ok   {head}", flush=True)
 
-    with ThreadPoolExecutor(max_workers=max(1, jobs)) as pool:
+    with ThreadPoolExecutor(max_workers=max(1, args.jobs if prefix else 1)) as pool:
         list(pool.map(report, cases))
-    print(f"{counts['passed']} passed, {counts['failed']} failed")
-    return 1 if counts["failed"] else 0
+    print(f"{len(cases) - len(failed)} passed, {len(failed)} failed")
+    return 1 if failed else 0
 
 
 def parser() -> argparse.ArgumentParser:

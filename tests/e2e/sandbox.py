@@ -1,11 +1,7 @@
-"""Sandbox cases (README.md, "Sandbox cases"): their directives, their run inside bubblewrap and
-the judging of what they left under /data and in the working directory.
-
-run_cases.py starts `sandbox.py` inside bwrap with the job pickled on standard input, as it starts
-execute.py. As `sandbox.py --command RUNS REPEAT ARGS...` it stands in for vexilctl: it runs ARGS
-REPEAT times (more than one start just after a second begins, so that all fall within it) and
-writes to the file RUNS the pid pidof printed before and the time stamps of the seconds the runs
-spanned.
+"""Sandbox cases (README.md): their directives, their run inside bwrap (run_cases.py starts this
+file there as it starts execute.py) and the judging of what they left under /data and in the
+working directory. `sandbox.py --command RUNS REPEAT ARGS...` stands in for vexilctl: it runs ARGS
+REPEAT times within one second and writes to RUNS the pid pidof printed and those seconds.
 """
 
 from __future__ import annotations
