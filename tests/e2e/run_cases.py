@@ -49,12 +49,12 @@ def diff(name: str, expected: list, actual: list) -> str:
 
 
 def compare_stream(name: str, matcher, actual: bytes, problems: list):
-    if matcher.regex is not None and not matcher.matches(actual):
-        problems.append(f"{name} does not match {matcher.describe()}\n"
-                        f"      actual: {c_quote(actual)}")
-    elif not matcher.matches(actual):
-        problems.append(diff(name, *([c_quote(line) for line in text.splitlines(keepends=True)]
-                                     for text in (matcher.exact, actual))))
+    if matcher.matches(actual):
+        return
+    problems.append(f"{name} does not match {matcher.describe()}\n      actual: {c_quote(actual)}"
+                    if matcher.regex is not None else diff(name, *(
+                        [c_quote(line) for line in text.splitlines(keepends=True)]
+                        for text in (matcher.exact, actual))))
 
 
 def in_order(expected: list, actual: list, same) -> int:
