@@ -145,7 +145,8 @@ def judge(case: Case, seen: dict) -> list:
 
 def run(cases: list, args) -> int:
     """Runs the cases (those named --only, if given) and prints each outcome and the counts."""
-    cases, prefix, failed = [c for c in cases if args.only in (None, c.name)], namespace_prefix(), []
+    cases = [c for c in cases if args.only in (None, c.name)]
+    prefix, failed = namespace_prefix(), []
     if not prefix:
         print("run_cases: no network namespace available; running cases one at a time",
               file=sys.stderr)

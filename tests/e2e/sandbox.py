@@ -17,6 +17,7 @@ import sys
 import tempfile
 import time
 from dataclasses import dataclass, field
+from pathlib import Path
 from typing import Dict, Optional
 
 import caseformat as cf
@@ -68,18 +69,13 @@ def command(prefix: list, python: str) -> list:
 
 
 def listing(top: str) -> dict:
-    """Every entry below top: type, permission bits and, for files, the content."""
+    """Every entry below top: its permission bits and, for a file, its content (else None)."""
     entries = {}
     for dirpath, dirnames, filenames in os.walk(top):
-        for name in dirnames + filenames:
-            path = os.path.join(dirpath, name)
-            st = os.lstat(path)
-            entry = {"mode": stat.S_IMODE(st.st_mode), "type": "directory" if stat.S_ISDIR(
-                st.st_mode) else "file" if stat.S_ISREG(st.st_mode) else "special file"}
-            if entry["type"] == "file":
-                with open(path, "rb") as f:
-                    entry["content"] = f.read()
-            entries[os.path.relpath(path, WORKDIR) if top == WORKDIR else path] = entry
+        for path in (os.path.join(dirpath, name) for name in dirnames + filenames):
+            mode = os.lstat(path).st_mode
+            entries[os.path.relpath(path, WORKDIR) if top == WORKDIR else path] = (
+                stat.S_IMODE(mode), Path(path).read_bytes() if stat.S_ISREG(mode) else None)
     return entries
 
 
@@ -144,31 +140,26 @@ def judge(case, seen: dict, compare_stream) -> list:
     def with_parents(path):  # below /data itself
         parts = path.split("/")
         return {"/".join(parts[:i]) for i in range(3, len(parts) + 1)}
-    for path, mode in box.dirs.items():
-        expected |= with_parents(path)
-        if path in data and mode not in (None, data[path]["mode"]):
-            problems.append(f"{path}: mode {data[path]['mode']:o}, expected {mode:o}")
-    for pattern, (content, mode) in box.files.items():
+    checks = [(path, (None, mode)) for path, mode in box.dirs.items()]
+    for pattern, (content, mode) in list(box.files.items()) + checks:
         regex = re.escape(pattern).replace(re.escape(STAMP), r"(\d{8}-\d{6})")
         found = [p for p in data if re.fullmatch(regex, p)]
         if len(found) != 1:
             problems.append(f"{len(found)} entries match {pattern}, expected one: {found}")
             continue
-        path, entry = found[0], data[found[0]]
+        path, (actual_mode, actual) = found[0], data[found[0]]
         expected |= with_parents(path)
         if STAMP in pattern and re.fullmatch(regex, path).group(1) not in seen["stamps"]:
             problems.append(f"{path}: time stamp outside the command's run ({seen['stamps']})")
-        if mode not in (None, entry["mode"]):
-            problems.append(f"{path}: mode {entry['mode']:o}, expected {mode:o}")
-        if content is not None and "content" not in entry:
-            problems.append(f"{path} is a {entry['type']}, expected a file")
-        elif content is not None:
+        if mode not in (None, actual_mode):
+            problems.append(f"{path}: mode {actual_mode:o}, expected {mode:o}")
+        if content is not None:
             compare_stream(path, cf.Matcher(regex=content.regex.replace(PID, seen["pid"]))
                            if content.regex else cf.Matcher(exact=content.exact.replace(
-                               PID.encode(), seen["pid"].encode())), entry["content"], problems)
-    tools = {"system", "system/bin"} | {f"system/bin/{n}" for n in box.tools} if box.tools else set()
-    problems += [f"unexpected {data[p]['type']} {p}" for p in sorted(set(data) - expected)]
-    problems += [f"unexpected {seen['workdir'][p]['type']} {p} in the working directory"
+                               PID.encode(), seen["pid"].encode())), actual or b"", problems)
+    tools = {"system", "system/bin", *(f"system/bin/{n}" for n in box.tools)} if box.tools else set()
+    problems += [f"unexpected {p}" for p in sorted(set(data) - expected)]
+    problems += [f"unexpected {p} in the working directory"
                  for p in sorted(set(seen["workdir"]) - tools)]
     return problems
 
