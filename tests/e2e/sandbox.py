@@ -157,7 +157,8 @@ def judge(case, seen: dict, compare_stream) -> list:
             compare_stream(path, cf.Matcher(regex=content.regex.replace(PID, seen["pid"]))
                            if content.regex else cf.Matcher(exact=content.exact.replace(
                                PID.encode(), seen["pid"].encode())), actual or b"", problems)
-    tools = {"system", "system/bin", *("system/bin/" + n for n in box.tools)} if box.tools else set()
+    tools = {"system", "system/bin", *("system/bin/" + n for n in box.tools)}
+    tools = tools if box.tools else set()
     problems += [f"unexpected {p}" for p in sorted(set(data) - expected)]
     problems += [f"unexpected {p} in the working directory"
                  for p in sorted(set(seen["workdir"]) - tools)]
