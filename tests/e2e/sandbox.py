@@ -61,7 +61,9 @@ def parse_directive(case, key: str, value: str, golden_dir, seed: str):
 def command(prefix: list, python: str) -> list:
     """The command that runs a sandbox case: bwrap over the real root, but with an empty /data,
     an empty working directory, and a /proc of the case's own pid namespace."""
-    binds = [arg for name in sorted(os.listdir("/")) if name not in ("data", "dev", "proc")
+    # Each top-level entry on its own rather than `--bind / /`, so that the mount points of /data
+    # and of the working directory are made in bwrap's root and never on the host.
+    binds = [arg for name in sorted(os.listdir("/")) if name not in ("data", "dev", "proc", WORKDIR[1:])
              for arg in ("--bind", "/" + name, "/" + name)]
     return prefix + ["bwrap", *binds, "--tmpfs", "/data", "--dir", WORKDIR, "--chdir", WORKDIR,
                      "--dev", "/dev", "--unshare-pid", "--proc", "/proc", "--die-with-parent",
