@@ -63,7 +63,8 @@ def command(prefix: list, python: str) -> list:
     an empty working directory, and a /proc of the case's own pid namespace."""
     # Each top-level entry on its own rather than `--bind / /`, so that the mount points of /data
     # and of the working directory are made in bwrap's root and never on the host.
-    binds = [arg for name in sorted(os.listdir("/")) if name not in ("data", "dev", "proc", WORKDIR[1:])
+    binds = [arg for name in sorted(os.listdir("/"))
+             if name not in ("data", "dev", "proc", WORKDIR[1:])
              for arg in ("--bind", "/" + name, "/" + name)]
     return prefix + ["bwrap", *binds, "--tmpfs", "/data", "--dir", WORKDIR, "--chdir", WORKDIR,
                      "--dev", "/dev", "--unshare-pid", "--proc", "/proc", "--die-with-parent",
