@@ -13,9 +13,10 @@ build="${VEXIL_BUILD_DIR:-build/default}"
 if [ "${1:-}" = "--all" ]; then
     cases=(tests/e2e/cases/*.case)
 else
-    # The front end's refusals, every kind of service fault, the socket commands.
+    # The front end's refusals, every kind of service fault, the socket commands and their
+    # bad answers.
     cases=(tests/e2e/cases/front.case tests/e2e/cases/faults.case
-           tests/e2e/cases/vexilserver.case)
+           tests/e2e/cases/vexilserver.case tests/e2e/cases/vexilserver_replies.case)
 fi
 
 wrap="valgrind -q --vgdb=no --error-exitcode=99 --leak-check=full --show-leak-kinds=definite"

@@ -22,6 +22,7 @@ declare -A packages=(
     [clang-format]=/usr/bin/clang-format
     [soong]=/usr/bin/bpfix
     [sysvinit-utils]=/bin/pidof
+    [bubblewrap]=/usr/bin/bwrap
     [strace]=/usr/bin/strace
     [hyperfine]=/usr/bin/hyperfine
     [time]=/usr/bin/time

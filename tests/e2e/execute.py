@@ -7,41 +7,15 @@ writes the observations, pickled, on standard output. Compares nothing itself.
 import json
 import os
 import pickle
-import select
 import signal
 import socket
 import subprocess
 import sys
 import tempfile
-import time
 
-READY_SECONDS = 10
 STOP_SECONDS = 5
 ADDRESSES = {"vexilserver": "\0vexilserver", "log": "\0vexil.hostlog",
              "service": "\0vendor.kest.hardware.vexil_svc.ISysLogControl/default"}
-
-
-def read_line(proc) -> bytes:
-    """The next line tarnmodem prints; what came of it when it ended or took too long."""
-    deadline = time.monotonic() + READY_SECONDS
-    seen = b""
-    while not seen.endswith(b"\n"):
-        left = deadline - time.monotonic()
-        if left <= 0 or not select.select([proc.stdout], [], [], left)[0]:
-            break
-        chunk = os.read(proc.stdout.fileno(), 1)  # no further: a later line is for a reload
-        if not chunk:
-            break
-        seen += chunk
-    return seen
-
-
-def reload(proc, state: str, text: str) -> bytes:
-    """Puts text in place of the state file, sends SIGHUP and returns tarnmodem's answer."""
-    with open(state, "w", encoding="utf-8") as f:
-        f.write(text)
-    proc.send_signal(signal.SIGHUP)
-    return read_line(proc)
 
 
 def run_raw(raw, held: list):
@@ -114,11 +88,14 @@ def execute(job: dict) -> dict:
         proc = subprocess.Popen(args, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=emu_err)
         try:
-            out["ready"] = read_line(proc) == b"ready\n"
+            out["ready"] = proc.stdout.readline() == b"ready\n"
             if out["ready"]:
                 out["raw"] = [run_raw(raw, held) for raw in case.raw]
                 if case.reload is not None:
-                    out["reload_line"] = reload(proc, state, case.reload)
+                    with open(state, "w", encoding="utf-8") as f:
+                        f.write(case.reload)
+                    proc.send_signal(signal.SIGHUP)
+                    out["reload_line"] = proc.stdout.readline()
                 out["alive_after_raw"] = proc.poll() is None
                 if case.argv is not None:
                     out["ran"] = True
@@ -131,12 +108,6 @@ def execute(job: dict) -> dict:
                         out.update(stdout=done.stdout, stderr=done.stderr, exit=done.returncode)
                     except subprocess.TimeoutExpired as e:
                         out.update(stdout=e.stdout or b"", stderr=e.stderr or b"", exit=None)
-                if case.emulator_gone:
-                    # Its sockets close before the process is gone: give it a moment to end.
-                    try:
-                        proc.wait(STOP_SECONDS)
-                    except subprocess.TimeoutExpired:
-                        pass
                 out["alive_after_command"] = proc.poll() is None
         finally:
             for sock in held:

@@ -6,7 +6,7 @@ run as end-to-end cases (tests/e2e format) by the case runner.
 Every cell must end with exit status 0, within its time limit, with no sanitizer text on either
 stream, without taking the emulator down (unless the fault kills it), and without a write to the
 service after a failed read. Where a table states an exact output, that is checked too.
-Options: those of tests/e2e/run_cases.py, or --print to write the generated cases to stdout.
+Options: those of tests/e2e/run_cases.py.
 """
 
 import json
@@ -168,10 +168,7 @@ def socket_cases() -> list:
 
 
 def main() -> int:
-    text = "\n".join(service_cases() + socket_cases()) + "\n"
-    if sys.argv[1:] == ["--print"]:
-        sys.stdout.write(text)
-        return 0
+    text = "\n".join(service_cases() + socket_cases())
     return run_cases.run(parse_file(Path("fault_matrix"), HERE, text),
                          run_cases.parser().parse_args())
 
