@@ -17,18 +17,6 @@ using test::CommandLine;
 // What the classifier writes to stderr.
 enum class Complaint { none, missing_argument, missing_argument_and_usage };
 
-std::string complaint_text(Complaint complaint) {
-    switch (complaint) {
-        case Complaint::none:
-            return "";
-        case Complaint::missing_argument:
-            return "Missing argument.\n";
-        case Complaint::missing_argument_and_usage:
-            return "Missing argument.\n" + test::error_usage_text();
-    }
-    return "?";
-}
-
 // The fields that differ from a fresh Options, in field order.
 std::string describe(const Options& opts) {
     std::string out;
@@ -137,7 +125,10 @@ TEST_P(ClassifierTest, StatusOptionsAndComplaint) {
     const std::string complaint = testing::internal::GetCapturedStderr();
 
     EXPECT_EQ(status, c.status);
-    EXPECT_EQ(complaint, complaint_text(c.complaint));
+    const std::string missing = c.complaint == Complaint::none ? "" : "Missing argument.\n";
+    EXPECT_EQ(complaint, c.complaint == Complaint::missing_argument_and_usage
+                             ? missing + test::error_usage_text()
+                             : missing);
     if (c.status == 0) {
         EXPECT_EQ(describe(opts), c.options);
     }

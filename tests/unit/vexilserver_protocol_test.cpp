@@ -31,21 +31,6 @@ class CannedServer {
     int fds_[2] = {-1, -1};
 };
 
-struct Outcome {
-    int rc;
-    std::string out;
-    std::string err;
-};
-
-Outcome run_captured(const std::function<int()>& run) {
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    int rc = run();
-    std::string out = testing::internal::GetCapturedStdout();
-    std::string err = testing::internal::GetCapturedStderr();
-    return {rc, out, err};
-}
-
 // Replies that end the server's side at once; the time-out does not matter for them.
 constexpr int kShortTimeoutMs = 2000;
 
@@ -55,6 +40,22 @@ struct ReplyCase {
     std::string out;
     std::string err;
 };
+
+// Each case's reply canned for a fresh request, and what read(request) returns and prints.
+void expect_replies(const std::vector<ReplyCase>& cases,
+                    const std::function<int(VexilserverRequest&)>& read) {
+    for (const ReplyCase& c : cases) {
+        SCOPED_TRACE("reply \"" + c.reply + "\"");
+        CannedServer server;
+        server.reply(c.reply);
+        VexilserverRequest conn(server.client_fd());
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(read(conn), c.rc);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), c.out);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), c.err);
+    }
+}
 
 TEST(VexilserverWaitSimpleResponse, CannedReplies) {
     const std::vector<ReplyCase> cases = {
@@ -87,16 +88,8 @@ TEST(VexilserverWaitSimpleResponse, CannedReplies) {
         {std::string(40, 'X'), -1, "", "Invalid response: " + std::string(32, 'X') + "\n"},
         {std::string(31, ' ') + "OK", -1, "", "Invalid response: " + std::string(31, ' ') + "O\n"},
     };
-    for (const ReplyCase& c : cases) {
-        SCOPED_TRACE("reply \"" + c.reply + "\"");
-        CannedServer server;
-        server.reply(c.reply);
-        VexilserverRequest conn(server.client_fd());
-        Outcome got = run_captured([&] { return conn.wait_simple_response(kShortTimeoutMs); });
-        EXPECT_EQ(got.rc, c.rc);
-        EXPECT_EQ(got.out, c.out);
-        EXPECT_EQ(got.err, c.err);
-    }
+    expect_replies(
+        cases, [](VexilserverRequest& conn) { return conn.wait_simple_response(kShortTimeoutMs); });
 }
 
 TEST(VexilserverStateQuery, CannedReplies) {
@@ -124,17 +117,9 @@ TEST(VexilserverStateQuery, CannedReplies) {
         {"ON", -1, "", "Invalid response: ON\n"},
         {"O", -1, "", "Invalid response: O\n"},
     };
-    for (const ReplyCase& c : cases) {
-        SCOPED_TRACE("reply \"" + c.reply + "\"");
-        CannedServer server;
-        server.reply(c.reply);
-        VexilserverRequest conn(server.client_fd());
-        Outcome got = run_captured(
-            [&] { return tarn::parse_state_query_result(conn, accepted, std::size(accepted)); });
-        EXPECT_EQ(got.rc, c.rc);
-        EXPECT_EQ(got.out, c.out);
-        EXPECT_EQ(got.err, c.err);
-    }
+    expect_replies(cases, [&](VexilserverRequest& conn) {
+        return tarn::parse_state_query_result(conn, accepted, std::size(accepted));
+    });
 }
 
 }  // namespace
