@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "front/RequestManager.h"
 #include "front_test_support.h"
@@ -13,54 +14,45 @@ namespace tarn {
 namespace {
 
 using Handler = std::shared_ptr<Request> (RequestManager::*)(std::shared_ptr<Options>);
-Options with(const char* subsys, const std::string& storage, const std::string& cmd) {
-    Options opts;
-    if (subsys != nullptr) opts.subsystems = {subsys};
-    opts.storage = storage;
-    opts.cmd = cmd;
-    return opts;
-}
 
 TEST(StorageHandlersTest, WordsAreMatchedExactly) {
     const struct {
-        const char* name;
         Handler handler;
-        Options opts;
-        bool accepted;
+        const char* subsys;  // null: no subsystem word
+        std::string Options::*field;
+        std::string accepted;
+        std::vector<std::string> refused;
     } cases[] = {
-        {"capacity internal", &RequestManager::proc_get_cp_max_size, with("modem", "internal", ""),
-         true},
-        {"capacity Internal", &RequestManager::proc_get_cp_max_size, with("modem", "Internal", ""),
-         false},
-        {"capacity internal+blank", &RequestManager::proc_get_cp_max_size,
-         with("modem", "internal ", ""), false},
-        {"set capacity external", &RequestManager::proc_set_cp_max_size,
-         with("modem", "external", ""), true},
-        {"set capacity EXTERNAL", &RequestManager::proc_set_cp_max_size,
-         with("modem", "EXTERNAL", ""), false},
-        {"setstor data", &RequestManager::proc_set_preferred_storage, with(nullptr, "data", ""),
-         true},
-        {"setstor Data", &RequestManager::proc_set_preferred_storage, with(nullptr, "Data", ""),
-         false},
-        {"setstor stor", &RequestManager::proc_set_preferred_storage, with(nullptr, "stor", ""),
-         false},
-        {"setoverwrite enable", &RequestManager::proc_overwrite, with("modem", "", "enable"), true},
-        {"setoverwrite Enable", &RequestManager::proc_overwrite, with("modem", "", "Enable"), false},
-        {"setoverwrite on", &RequestManager::proc_overwrite, with("modem", "", "on"), false},
-        {"setfilenodel disable", &RequestManager::proc_set_file_nodel, with("modem", "", "disable"),
-         true},
-        {"setfilenodel disabled", &RequestManager::proc_set_file_nodel,
-         with("modem", "", "disabled"), false},
+        {&RequestManager::proc_get_cp_max_size,
+         "modem",
+         &Options::storage,
+         "internal",
+         {"Internal", "internal "}},
+        {&RequestManager::proc_set_cp_max_size, "modem", &Options::storage, "external", {"EXTERNAL"}},
+        {&RequestManager::proc_set_preferred_storage,
+         nullptr,
+         &Options::storage,
+         "data",
+         {"Data", "stor"}},
+        {&RequestManager::proc_overwrite, "modem", &Options::cmd, "enable", {"Enable", "on"}},
+        {&RequestManager::proc_set_file_nodel, "modem", &Options::cmd, "disable", {"disabled"}},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        RequestManager manager;
-        testing::internal::CaptureStderr();
-        std::shared_ptr<Request> request = (manager.*c.handler)(std::make_shared<Options>(c.opts));
-        const std::string err = testing::internal::GetCapturedStderr();
+        std::vector<std::string> words = c.refused;
+        words.insert(words.begin(), c.accepted);
+        for (const std::string& word : words) {
+            SCOPED_TRACE(c.accepted + " given " + word);
+            auto opts = std::make_shared<Options>();
+            if (c.subsys != nullptr) opts->subsystems = {c.subsys};
+            (*opts).*c.field = word;
+            RequestManager manager;
+            testing::internal::CaptureStderr();
+            std::shared_ptr<Request> request = (manager.*c.handler)(opts);
+            const std::string err = testing::internal::GetCapturedStderr();
 
-        EXPECT_EQ(request != nullptr, c.accepted);
-        EXPECT_EQ(err, request ? "" : "Missing argument.\n" + test::error_usage_text());
+            EXPECT_EQ(request != nullptr, word == c.accepted);
+            EXPECT_EQ(err, request ? "" : "Missing argument.\n" + test::error_usage_text());
+        }
     }
 }
 
