@@ -34,13 +34,8 @@ qemu_limits=HostTransportDeath.HangUpDuringACallFiresTheRecipientAndFailsTheCall
 qemu_limits+=:HostTransportDeath.DeathBetweenCallsIsNoticedOnTheNextCall
 # In a network namespace of their own when one can be had: the dbg tests read the host log sink,
 # which other processes of the machine (a fuzzer, say) may flood.
-isolate=()
-for ns in "unshare -n" "unshare -rn"; do
-    if $ns true 2>/dev/null; then
-        read -r -a isolate <<<"$ns"
-        break
-    fi
-done
+# shellcheck source=scripts/network_namespace.sh
+source scripts/network_namespace.sh
 "${isolate[@]}" "${qemu[@]}" "$build/tests/vexilctl_unit_tests" --gtest_brief=1 \
     --gtest_filter="-$qemu_limits" || status=1
 

@@ -13,12 +13,11 @@ if [ -z "${VEXIL_DEMO_INSIDE:-}" ]; then
     cmake --build build/demo -j"$(nproc)" --target vexilctl tarnmodem
     # Run the session in a network namespace of its own when possible, so that the daemon's
     # abstract socket names cannot meet those of anything else on this machine.
-    for ns in "unshare -n" "unshare -rn"; do
-        if [ "$ns" = "unshare -n" ] && [ "$(id -u)" -ne 0 ]; then continue; fi
-        if $ns true 2>/dev/null; then
-            VEXIL_DEMO_INSIDE=1 exec $ns bash "$0" "$@"
-        fi
-    done
+    # shellcheck source=scripts/network_namespace.sh
+    source scripts/network_namespace.sh
+    if [ ${#isolate[@]} -gt 0 ]; then
+        VEXIL_DEMO_INSIDE=1 exec "${isolate[@]}" bash "$0" "$@"
+    fi
     echo "demo: no network namespace available; running in the current one" >&2
     export VEXIL_DEMO_INSIDE=1
 fi

@@ -89,14 +89,8 @@ offered_commands=$(complete_line 'vexilctl ')
 # offered word, or 5 where a number goes). dbg is left out: it writes under /data.
 # The runs get a network namespace of their own when one can be had, so that no daemon, service
 # or log sink of the machine (all on abstract sockets) sees them.
-isolate=()
-for prefix in 'unshare -n' 'unshare -rn'; do
-    # shellcheck disable=SC2086
-    if $prefix true 2>/dev/null; then
-        read -r -a isolate <<<"$prefix"
-        break
-    fi
-done
+# shellcheck source=scripts/network_namespace.sh
+source "$root/scripts/network_namespace.sh"
 if [[ -n $vexilctl ]]; then
     for command in $offered_commands; do
         [[ $command == dbg || $command == setlogpath ]] && continue
