@@ -168,9 +168,12 @@ def socket_cases() -> list:
 
 
 def main() -> int:
-    text = "\n".join(service_cases() + socket_cases())
-    return run_cases.run(parse_file(Path("fault_matrix"), HERE, text),
-                         run_cases.parser().parse_args())
+    p = run_cases.parser()
+    p.add_argument("--shard", default="1/1", help="K/N: every N-th case, starting at the K-th")
+    args = p.parse_args()
+    k, n = (int(x) for x in args.shard.split("/"))
+    cases = parse_file(Path("fault_matrix"), HERE, "\n".join(service_cases() + socket_cases()))
+    return run_cases.run(cases[k - 1::n], args)
 
 
 if __name__ == "__main__":
