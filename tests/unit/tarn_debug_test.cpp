@@ -171,6 +171,21 @@ TEST_F(TarnDebugTest, OutputIsReadInLimitedPieces) {
     EXPECT_EQ(captured(cmd), expected);
 }
 
+// No capture file until one is opened; with standard input closed the capture file takes
+// descriptor 0, and the capture still goes on.
+TEST_F(TarnDebugTest, CaptureFileMayTakeDescriptorZero) {
+    TarnDebug debug("fdinfo", root.string());
+    EXPECT_EQ(debug.output_fd(), -1);
+    int saved = dup(0);
+    ASSERT_EQ(close(0), 0);
+    int opened = debug.open_file("fdinfo");
+    int fd = debug.output_fd();
+    dup2(saved, 0);
+    close(saved);
+    EXPECT_EQ(opened, 0);
+    EXPECT_EQ(fd, 0);
+}
+
 TEST_F(TarnDebugTest, CloseFileLogsLostAndFailedCloses) {
     LogSink sink;
     if (!sink.bound()) GTEST_SKIP() << "the log sink's name stayed taken";
