@@ -5,20 +5,19 @@
 #include <gtest/gtest.h>
 #include <host/log_sink.h>
 #include <poll.h>
-#include <stddef.h>
 #include <stdlib.h>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <thread>
 
+#include "AbstractSocket.h"
+#include "LogSink.h"
 #include "debug/TarnDebug.h"
 
 namespace tarn {
@@ -31,19 +30,12 @@ namespace fs = std::filesystem;
 class LogSink {
   public:
     LogSink() {
-        sockaddr_un addr{};
-        addr.sun_family = AF_UNIX;
-        memcpy(addr.sun_path + 1, kHostLogSinkName, strlen(kHostLogSinkName));
-        socklen_t len = offsetof(sockaddr_un, sun_path) + 1 + strlen(kHostLogSinkName);
-        for (int tries = 0; tries < 600; ++tries) {
-            fd_ = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-            int on = 1;
-            setsockopt(fd_, SOL_SOCKET, SO_PASSCRED, &on, sizeof(on));
-            if (bind(fd_, reinterpret_cast<sockaddr*>(&addr), len) == 0) return;
-            close(fd_);
-            fd_ = -1;
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        for (int tries = 0; tries < 600 && fd_ < 0; ++tries) {
+            fd_ = tarnmodem::bind_abstract_socket(kHostLogSinkName, SOCK_DGRAM);
+            if (fd_ < 0) std::this_thread::sleep_for(std::chrono::milliseconds(50));
         }
+        int on = 1;
+        if (fd_ >= 0) setsockopt(fd_, SOL_SOCKET, SO_PASSCRED, &on, sizeof(on));
     }
     ~LogSink() {
         if (fd_ >= 0) close(fd_);
@@ -58,7 +50,7 @@ class LogSink {
         pollfd p{fd_, POLLIN, 0};
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(2);
         while (std::chrono::steady_clock::now() < deadline && poll(&p, 1, 100) == 1) {
-            char buf[8192];
+            unsigned char buf[8192];
             alignas(cmsghdr) char control[CMSG_SPACE(sizeof(ucred))];
             iovec iov{buf, sizeof(buf)};
             msghdr msg{};
@@ -69,13 +61,9 @@ class LogSink {
             ssize_t got = recvmsg(fd_, &msg, 0);
             if (got <= 0) break;
             cmsghdr* cred = CMSG_FIRSTHDR(&msg);
-            if (cred == nullptr || reinterpret_cast<ucred*>(CMSG_DATA(cred))->pid != getpid()) {
-                continue;
+            if (cred != nullptr && reinterpret_cast<ucred*>(CMSG_DATA(cred))->pid == getpid()) {
+                all += tarnmodem::decode_log_datagram(buf, static_cast<size_t>(got))["msg"];
             }
-            // The payload is: priority byte, tag, NUL, text, NUL.
-            std::string payload(buf, static_cast<size_t>(got));
-            size_t text = payload.find('\0') + 1;
-            all += payload.substr(text, payload.size() - text - 1);
         }
         return all;
     }
