@@ -164,6 +164,10 @@ TEST_F(TarnDebugTest, OutputIsReadInLimitedPieces) {
 TEST_F(TarnDebugTest, CaptureFileMayTakeDescriptorZero) {
     TarnDebug debug("fdinfo", root.string());
     EXPECT_EQ(debug.output_fd(), -1);
+    // A first capture opens the log's socket as well, which would otherwise take descriptor 0.
+    ASSERT_EQ(debug.open_file("fdinfo"), 0);
+    int first = debug.output_fd();
+    debug.close_file(first);
     int saved = dup(0);
     ASSERT_EQ(close(0), 0);
     int opened = debug.open_file("fdinfo");
