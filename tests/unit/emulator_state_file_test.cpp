@@ -69,12 +69,5 @@ TEST(EmulatorStateFile, RefusalsNameTheKey) {
     }
 }
 
-TEST(EmulatorStateFile, MissingFileIsNamed) {
-    EmulatorConfig config;
-    std::string error;
-    EXPECT_FALSE(load_state_file("/nonexistent/state.json", config, error));
-    EXPECT_NE(error.find("/nonexistent/state.json"), std::string::npos) << error;
-}
-
 }  // namespace
 }  // namespace tarnmodem

@@ -40,7 +40,6 @@ TEST(ProcessEndHookTest, OutcomesOfEachStage) {
         {{"setlogpscfg", "enable"}, -1, false},
         {{"setcpcapacity", "modem"}, 0, false},  // refused with an empty request
         {{"state", "modem"}, 0, true},           // accepted: the request, not run
-        {{"getallvexilstate"}, 0, true},
     };
     for (const Case& c : cases) {
         std::shared_ptr<Request> request;

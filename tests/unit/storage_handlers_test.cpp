@@ -14,6 +14,8 @@ namespace tarn {
 namespace {
 
 using Handler = std::shared_ptr<Request> (RequestManager::*)(std::shared_ptr<Options>);
+using RM = RequestManager;
+using O = Options;
 
 TEST(StorageHandlersTest, WordsAreMatchedExactly) {
     const struct {
@@ -23,19 +25,13 @@ TEST(StorageHandlersTest, WordsAreMatchedExactly) {
         std::string accepted;
         std::vector<std::string> refused;
     } cases[] = {
-        {&RequestManager::proc_get_cp_max_size,
-         "modem",
-         &Options::storage,
-         "internal",
-         {"Internal", "internal "}},
-        {&RequestManager::proc_set_cp_max_size, "modem", &Options::storage, "external", {"EXTERNAL"}},
-        {&RequestManager::proc_set_preferred_storage,
-         nullptr,
-         &Options::storage,
-         "data",
-         {"Data", "stor"}},
-        {&RequestManager::proc_overwrite, "modem", &Options::cmd, "enable", {"Enable", "on"}},
-        {&RequestManager::proc_set_file_nodel, "modem", &Options::cmd, "disable", {"disabled"}},
+        // clang-format off
+        {&RM::proc_get_cp_max_size, "modem", &O::storage, "internal", {"Internal", "internal "}},
+        {&RM::proc_set_cp_max_size, "modem", &O::storage, "external", {"EXTERNAL"}},
+        {&RM::proc_set_preferred_storage, nullptr, &O::storage, "data", {"Data", "stor"}},
+        {&RM::proc_overwrite, "modem", &O::cmd, "enable", {"Enable", "on"}},
+        {&RM::proc_set_file_nodel, "modem", &O::cmd, "disable", {"disabled"}},
+        // clang-format on
     };
     for (const auto& c : cases) {
         std::vector<std::string> words = c.refused;

@@ -15,22 +15,6 @@
 
 namespace {
 
-// A connected socket pair: the client end belongs to the request under test, the test plays
-// the server on the other end.
-class CannedServer {
-  public:
-    CannedServer() { EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, fds_), 0); }
-    ~CannedServer() { close(fds_[1]); }  // the client end is the request's to close
-
-    int client_fd() const { return fds_[0]; }
-    void reply(const std::string& bytes) {
-        ASSERT_EQ(write(fds_[1], bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-    }
-
-  private:
-    int fds_[2] = {-1, -1};
-};
-
 // Replies that end the server's side at once; the time-out does not matter for them.
 constexpr int kShortTimeoutMs = 2000;
 
@@ -41,19 +25,22 @@ struct ReplyCase {
     std::string err;
 };
 
-// Each case's reply canned for a fresh request, and what read(request) returns and prints.
+// Each case's reply canned for a fresh request, over a socket pair whose other end plays the
+// server, and what read(request) returns and prints. The request closes its own end.
 void expect_replies(const std::vector<ReplyCase>& cases,
                     const std::function<int(VexilserverRequest&)>& read) {
     for (const ReplyCase& c : cases) {
         SCOPED_TRACE("reply \"" + c.reply + "\"");
-        CannedServer server;
-        server.reply(c.reply);
-        VexilserverRequest conn(server.client_fd());
+        int fds[2];
+        ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, fds), 0);
+        ASSERT_EQ(write(fds[1], c.reply.data(), c.reply.size()), ssize_t(c.reply.size()));
+        VexilserverRequest conn(fds[0]);
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
         EXPECT_EQ(read(conn), c.rc);
         EXPECT_EQ(testing::internal::GetCapturedStdout(), c.out);
         EXPECT_EQ(testing::internal::GetCapturedStderr(), c.err);
+        close(fds[1]);
     }
 }
 
