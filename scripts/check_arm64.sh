@@ -28,10 +28,11 @@ for binary in "$build/vexilctl" "$build/emulator/tarnmodem" "$build/tests/vexilc
 done
 
 echo "check_arm64: unit tests under qemu-aarch64"
-# Left out: two tests whose forked child starts threads, which qemu-user (7.2) cannot emulate
+# Left out: three tests whose forked child starts threads, which qemu-user (7.2) cannot emulate
 # (it aborts in its own thread set-up); they pass natively.
 qemu_limits=HostTransportDeath.HangUpDuringACallFiresTheRecipientAndFailsTheCall
 qemu_limits+=:HostTransportDeath.DeathBetweenCallsIsNoticedOnTheNextCall
+qemu_limits+=:RequestResults.ByServiceState
 # In a network namespace of their own when one can be had: the dbg tests read the host log sink,
 # which other processes of the machine (a fuzzer, say) may flood.
 # shellcheck source=scripts/network_namespace.sh
