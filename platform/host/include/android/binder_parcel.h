@@ -18,6 +18,8 @@ typedef struct AParcel AParcel;
 
 void AParcel_delete(AParcel* parcel) __INTRODUCED_IN(29);
 
+AParcel* AParcel_create() __INTRODUCED_IN(31);
+
 binder_status_t AParcel_setDataPosition(const AParcel* parcel, int32_t position) __INTRODUCED_IN(29);
 int32_t AParcel_getDataPosition(const AParcel* parcel) __INTRODUCED_IN(29);
 

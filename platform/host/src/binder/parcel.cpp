@@ -73,6 +73,10 @@ binder_status_t read_value(const AParcel* parcel, T* value) {
 
 }  // namespace
 
+AParcel* AParcel_create() {
+    return new AParcel();
+}
+
 void AParcel_delete(AParcel* parcel) {
     delete parcel;
 }
