@@ -9,6 +9,7 @@ service after a failed read. Where a table states an exact output, that is check
 Options: those of tests/e2e/run_cases.py.
 """
 
+import errno
 import json
 import re
 import sys
@@ -23,9 +24,10 @@ AIDL = HERE.parent.parent / "service/aidl/vendor/kest/hardware/vexil_svc/ISysLog
 
 # Service-backed commands: a valid command line, the service operations it makes in order when
 # nothing fails, and its deliberate exceptions:
-# - "write_after": a read whose failure (of the named faults) the command goes past, still writing;
-#   then the write is the last call instead of there being none (a presence record that comes back
-#   with a failed result is still used; a setting that could not be read is written anyway);
+# - "write_after": a read whose failure (of the named faults; "status" stands for both status
+#   faults) the command goes past, still writing; then the write is the last call instead of there
+#   being none (a presence record that comes back with a failed result is still used; a setting
+#   that could not be read is written anyway);
 # - "no_service_stdout": what it prints on stdout when there is no service.
 SERVICE_COMMANDS = [
     ("state modem", ["getSubsystemPresence", "getCellularLogSettings"], {}),
@@ -80,6 +82,7 @@ NO_SERVICE_STDERR = "ERROR,getService error"
 # apply to operations that return an int (or an enum), not to those returning nothing or a string.
 CALL_FAULTS = [
     ("status", {"status": "EX_TRANSACTION_FAILED"}),
+    ("status_unknown_transaction", {"status": -errno.EBADMSG}),  # a daemon without the call
     ("result_minus_1", {"result": -1}),
     ("result_minus_3", {"result": -3}),
     ("dies", {"die": True}),
@@ -133,7 +136,7 @@ def call_fault_checks(op: str, fault: str, ops: list, write_after: dict) -> list
         return ['log "onBinderDied: Enter onBinderDied\\n"', f"no-call-after {op}"]
     if not op.startswith("get"):
         return [f"no-call-after {op}"]
-    if fault in write_after.get(op, ()):
+    if fault.startswith(tuple(write_after.get(op, ()))):
         return [f"no-call-after {ops[-1]}"]
     return ["journal-lacks set.*"]  # nothing is written after a failed read
 

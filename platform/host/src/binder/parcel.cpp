@@ -166,9 +166,11 @@ binder_status_t AParcel_readStrongBinder(const AParcel* parcel, AIBinder** binde
 }
 
 // Status header: int32 exception; unless EX_NONE, then the message (string) and an int32 error
-// code (the transaction error or the service-specific code).
+// code (the service-specific code). A transaction error is no header: it is returned, so that the
+// service's answer fails the transaction itself, as the platform's does.
 binder_status_t AParcel_writeStatusHeader(AParcel* parcel, const AStatus* status) {
     if (status == nullptr) return STATUS_UNEXPECTED_NULL;
+    if (status->exception == EX_TRANSACTION_FAILED) return status->error_code;
     binder_status_t rc = AParcel_writeInt32(parcel, status->exception);
     if (rc != STATUS_OK || status->exception == EX_NONE) return rc;
     rc = AParcel_writeString(parcel, status->message.c_str(),
