@@ -19,7 +19,7 @@ cmake --preset aarch64 >/dev/null
 cmake --build "$build" -j"$(nproc)" --target vexilctl tarnmodem vexilctl_unit_tests
 
 status=0
-for binary in "$build/vexilctl" "$build/emulator/tarnmodem" "$build/tests/vexilctl_unit_tests"; do
+for binary in "$build/vexilctl" "$build/host/emulator/tarnmodem" "$build/tests/vexilctl_unit_tests"; do
     machine=$(readelf -h "$binary" | sed -n 's/^ *Machine: *//p')
     if [ "$machine" != AArch64 ]; then
         echo "check_arm64: $binary is built for '$machine', not AArch64" >&2
@@ -35,15 +35,13 @@ qemu_limits+=:HostTransportDeath.DeathBetweenCallsIsNoticedOnTheNextCall
 qemu_limits+=:RequestResults.ByServiceState
 # In a network namespace of their own when one can be had: the dbg tests read the host log sink,
 # which other processes of the machine (a fuzzer, say) may flood.
-# shellcheck source=scripts/network_namespace.sh
-source scripts/network_namespace.sh
-"${isolate[@]}" "${qemu[@]}" "$build/tests/vexilctl_unit_tests" --gtest_brief=1 \
+bash scripts/isolated.sh "${qemu[@]}" "$build/tests/vexilctl_unit_tests" --gtest_brief=1 \
     --gtest_filter="-$qemu_limits" || status=1
 
 # End-to-end: the harness starts what it is given; these wrappers start the AArch64 binaries.
 wrappers=$build/qemu-wrappers
 mkdir -p "$wrappers"
-for binary in "$build/vexilctl" "$build/emulator/tarnmodem"; do
+for binary in "$build/vexilctl" "$build/host/emulator/tarnmodem"; do
     printf '#!/bin/sh\nexec qemu-aarch64 -L %s %s "$@"\n' "$sysroot" "$binary" \
         >"$wrappers/$(basename "$binary")"
     chmod +x "$wrappers/$(basename "$binary")"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets (preset "fuzz": clang-14, ASan + UBSan) and runs each from its seed
-# corpus in fuzz/corpus/ for FUZZ_SECONDS seconds (default 5: a smoke run). New inputs go to a
+# corpus (scripts/fuzzing/targets.sh says where each lives) for FUZZ_SECONDS seconds (default 5: a smoke run). New inputs go to a
 # scratch directory, not into the tree; a crashing input is kept under build/fuzz/findings/.
 #
 #   bash scripts/check_fuzz.sh                    # smoke run of every target
@@ -8,8 +8,8 @@
 #   bash scripts/check_fuzz.sh response_fuzzer    # only the named targets
 #   bash scripts/check_fuzz.sh --campaign 3600 [TARGET...]
 #       a campaign: each target for the given seconds, what it finds merged (minimised) into
-#       fuzz/corpus/, per target the executions, coverage and whether it flattened, recorded in
-#       fuzz/campaign.tsv (scripts/fuzz_campaign.py)
+#       its corpus, per target the executions, coverage and whether it flattened, recorded in
+#       scripts/fuzzing/campaign.tsv (scripts/fuzzing/campaign.py)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,9 +19,10 @@ if [ "${1:-}" = --campaign ]; then
     shift 2
 fi
 seconds="${FUZZ_SECONDS:-5}"
+# shellcheck source=scripts/fuzzing/targets.sh
+source scripts/fuzzing/targets.sh
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(front_fuzzer response_fuzzer vexilserver_line_fuzzer
-                                   service_transport_fuzzer state_file_fuzzer)
+[ ${#targets[@]} -gt 0 ] || targets=("${fuzz_targets[@]}")
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -41,17 +42,18 @@ mkdir -p "$findings"
 export ASAN_OPTIONS="check_printf=0:${ASAN_OPTIONS:-}"
 
 if [ -n "$campaign" ]; then
-    exec python3 scripts/fuzz_campaign.py "$campaign" "${targets[@]}"
+    exec python3 scripts/fuzzing/campaign.py "$campaign" "${targets[@]}"
 fi
 
 status=0
 for target in "${targets[@]}"; do
     mkdir -p "$scratch/$target"
+    dir=$(fuzz_dir "$target")
     dict=()
-    [ -f "fuzz/$target.dict" ] && dict=(-dict="fuzz/$target.dict")
-    if build/fuzz/fuzz/"$target" "${dict[@]}" -max_total_time="$seconds" -close_fd_mask=3 \
+    [ -f "$dir/$target.dict" ] && dict=(-dict="$dir/$target.dict")
+    if build/fuzz/fuzzers/"$target" "${dict[@]}" -max_total_time="$seconds" -close_fd_mask=3 \
         -print_final_stats=1 -artifact_prefix="$findings/$target-" \
-        "$scratch/$target" "fuzz/corpus/$target" >"$scratch/$target.log" 2>&1; then
+        "$scratch/$target" "$dir/corpus/$target" >"$scratch/$target.log" 2>&1; then
         runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$scratch/$target.log")
         echo "check_fuzz: $target: ${runs:-?} runs in ${seconds} s, no finding"
     else

@@ -22,5 +22,5 @@ fi
 wrap="valgrind -q --vgdb=no --error-exitcode=99 --leak-check=full --show-leak-kinds=definite"
 wrap+=" --errors-for-leak-kinds=definite"
 python3 tests/e2e/run_cases.py --vexilctl "$build/vexilctl" \
-    --tarnmodem "$build/emulator/tarnmodem" --golden tests/golden --jobs "$(nproc)" \
+    --tarnmodem "$build/host/emulator/tarnmodem" --golden tests/golden --jobs "$(nproc)" \
     --wrap "$wrap" --slowdown 6 "${cases[@]}"

@@ -11,19 +11,12 @@ if [ -z "${VEXIL_DEMO_INSIDE:-}" ]; then
     # A build of its own without the tests, which need more than the demo installs.
     cmake -S . -B build/demo -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXIL_TESTS=OFF >/dev/null
     cmake --build build/demo -j"$(nproc)" --target vexilctl tarnmodem
-    # Run the session in a network namespace of its own when possible, so that the daemon's
-    # abstract socket names cannot meet those of anything else on this machine.
-    # shellcheck source=scripts/network_namespace.sh
-    source scripts/network_namespace.sh
-    if [ ${#isolate[@]} -gt 0 ]; then
-        VEXIL_DEMO_INSIDE=1 exec "${isolate[@]}" bash "$0" "$@"
-    fi
-    echo "demo: no network namespace available; running in the current one" >&2
-    export VEXIL_DEMO_INSIDE=1
+    # The session runs in a network namespace of its own when one can be made.
+    VEXIL_DEMO_INSIDE=1 exec bash scripts/isolated.sh bash "$0" "$@"
 fi
 
 build=$root/build/demo
-tarnmodem=$build/emulator/tarnmodem
+tarnmodem=$build/host/emulator/tarnmodem
 vexilctl=$build/vexilctl
 work=$(mktemp -d)
 daemon=

@@ -7,7 +7,7 @@
 #include "front/ArgumentClassifier.h"
 #include "front/ArgumentWords.h"
 #include "front/Options.h"
-#include "front_test_support.h"
+#include "tests/unit/front_test_support.h"
 
 namespace tarn {
 namespace {

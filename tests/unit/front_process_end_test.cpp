@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "front/RequestManager.h"
-#include "front_test_support.h"
+#include "tests/unit/front_test_support.h"
 
 namespace tarn {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "front/RequestManager.h"
-#include "front_test_support.h"
+#include "tests/unit/front_test_support.h"
 
 namespace tarn {
 namespace {
