@@ -5,7 +5,7 @@
 #
 #   bash scripts/check_fuzz.sh                    # smoke run of every target
 #   FUZZ_SECONDS=600 bash scripts/check_fuzz.sh   # longer run, nothing kept
-#   bash scripts/check_fuzz.sh response_fuzzer    # only the named targets
+#   bash scripts/check_fuzz.sh tool_fuzzer        # only the named targets
 #   bash scripts/check_fuzz.sh --campaign 3600 [TARGET...]
 #       a campaign: each target for the given seconds, what it finds merged (minimised) into
 #       its corpus, per target the executions, coverage and whether it flattened, recorded in

@@ -2,6 +2,7 @@
 
 #include <cutils/sockets.h>
 #include <errno.h>
+#include <fcntl.h>
 #include <poll.h>
 #include <stdio.h>
 #include <string.h>
@@ -20,6 +21,18 @@ constexpr size_t kErrorPrefixLen = sizeof(kErrorPrefix) - 1;
 
 bool starts_with(const uint8_t* data, size_t len, const char* prefix, size_t prefix_len) {
     return len >= prefix_len && memcmp(data, prefix, prefix_len) == 0;
+}
+
+// The descriptor moved above standard error (-1 when it cannot be). A tool started with standard
+// input, output or error closed would get the connection on that number, and with standard error
+// its complaints would reach the server as further request lines.
+int above_standard_streams(int fd) {
+    if (fd < 0 || fd > STDERR_FILENO) return fd;
+    const int moved = fcntl(fd, F_DUPFD, STDERR_FILENO + 1);
+    const int saved_errno = errno;
+    close(fd);
+    errno = saved_errno;
+    return moved;
 }
 
 }  // namespace
@@ -49,7 +62,8 @@ VexilserverRequest::~VexilserverRequest() {
 }
 
 int VexilserverRequest::prepare_conn() {
-    fd_ = socket_local_client(kServerName, ANDROID_SOCKET_NAMESPACE_ABSTRACT, SOCK_STREAM);
+    fd_ = above_standard_streams(
+        socket_local_client(kServerName, ANDROID_SOCKET_NAMESPACE_ABSTRACT, SOCK_STREAM));
     if (fd_ >= 0) {
         return 0;
     }

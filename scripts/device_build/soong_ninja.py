@@ -27,7 +27,7 @@ NDK_GEN = ("out/soong/.intermediates/vendor/kest/vexilctl/service/aidl/"
 # generated library. The fuzzers are compiled only (their runtime is not in the tree), and only
 # their own sources: the others differ from the tool's by the coverage flags.
 COMPILED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
-FUZZERS = ("vexilctl_front_fuzzer", "vexilctl_response_fuzzer")
+FUZZERS = ("vexilctl_tool_fuzzer",)
 LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
 # The VNDK libraries vendor code links against as their sources export them: built here, then
 # reduced to the symbols they define. What they link from outside the tree subset is missing

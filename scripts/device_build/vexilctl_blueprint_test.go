@@ -434,8 +434,8 @@ func TestVexilctlVendorTree(t *testing.T) {
 			[]string{"vendor/bin/vexilctl"}},
 		"vexilctl_unit_tests": {"", []string{"tests/unit/front_usage_test.cpp"},
 			[]string{"data/nativetest64/vendor/vexilctl_unit_tests/vexilctl_unit_tests"}},
-		"vexilctl_front_fuzzer":    {"_fuzzer", []string{"tests/fuzz/front_fuzzer.cpp"}, nil},
-		"vexilctl_response_fuzzer": {"_fuzzer", []string{"tests/fuzz/response_fuzzer.cpp"}, nil},
+		"vexilctl_tool_fuzzer": {"_fuzzer", []string{"tests/fuzz/tool_fuzzer.cpp",
+			"tests/fuzz/fuzzed_device.cpp"}, nil},
 	}
 	names := make([]string, 0, len(wanted))
 	for name := range wanted {

@@ -3,7 +3,7 @@
 # among its tests (tests/fuzz/), the emulator's beside it (host/emulator/fuzz/); each directory
 # holds a target's source, its dictionary <target>.dict where there is one, and its seed corpus
 # corpus/<target>/. The built targets are in <build>/fuzzers/.
-fuzz_tool_targets=(front_fuzzer response_fuzzer)
+fuzz_tool_targets=(tool_fuzzer)
 fuzz_emulator_targets=(vexilserver_line_fuzzer service_transport_fuzzer state_file_fuzzer)
 fuzz_targets=("${fuzz_tool_targets[@]}" "${fuzz_emulator_targets[@]}")
 

@@ -1,4 +1,4 @@
-// prepare_request and the process-end hook: what an in-process driver (the front-end fuzzer)
+// prepare_request and the process-end hook: what an in-process driver (the tool fuzzer)
 // relies on. A refused command line returns 1 without a request; a handler's refusal reaches the
 // hook with status 0 instead of ending the process; an accepted one leaves its request. The
 // device build has no exceptions, so the hook here ends a forked child with a status of its own.

@@ -60,6 +60,7 @@ void AIBinder_incStrong(AIBinder* binder) __INTRODUCED_IN(29);
 void AIBinder_decStrong(AIBinder* binder) __INTRODUCED_IN(29);
 
 bool AIBinder_associateClass(AIBinder* binder, const AIBinder_Class* clazz) __INTRODUCED_IN(29);
+const AIBinder_Class* AIBinder_getClass(AIBinder* binder) __INTRODUCED_IN(29);
 void* AIBinder_getUserData(AIBinder* binder) __INTRODUCED_IN(29);
 
 binder_status_t AIBinder_prepareTransaction(AIBinder* binder, AParcel** in) __INTRODUCED_IN(29);

@@ -22,6 +22,9 @@ AParcel* AParcel_create() __INTRODUCED_IN(31);
 
 binder_status_t AParcel_setDataPosition(const AParcel* parcel, int32_t position) __INTRODUCED_IN(29);
 int32_t AParcel_getDataPosition(const AParcel* parcel) __INTRODUCED_IN(29);
+int32_t AParcel_getDataSize(const AParcel* parcel) __INTRODUCED_IN(31);
+binder_status_t AParcel_appendFrom(const AParcel* from, AParcel* to, int32_t start, int32_t size)
+    __INTRODUCED_IN(31);
 
 // Called with the string's length plus one (room for the terminator), or -1 for a null string.
 typedef bool (*AParcel_stringAllocator)(void* stringData, int32_t length, char** buffer);

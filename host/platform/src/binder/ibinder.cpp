@@ -125,6 +125,10 @@ bool AIBinder_associateClass(AIBinder* binder, const AIBinder_Class* clazz) {
     return binder->associate(clazz);
 }
 
+const AIBinder_Class* AIBinder_getClass(AIBinder* binder) {
+    return binder == nullptr ? nullptr : binder->clazz.load();
+}
+
 void* AIBinder_getUserData(AIBinder* binder) {
     if (binder == nullptr || binder->is_remote()) return nullptr;
     return static_cast<LocalBinder*>(binder)->user_data();

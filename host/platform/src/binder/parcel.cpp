@@ -91,6 +91,24 @@ int32_t AParcel_getDataPosition(const AParcel* parcel) {
     return static_cast<int32_t>(parcel->position);
 }
 
+int32_t AParcel_getDataSize(const AParcel* parcel) {
+    return static_cast<int32_t>(parcel->data.size());
+}
+
+// Copies size bytes of `from`, starting at start, to the position of `to`.
+binder_status_t AParcel_appendFrom(const AParcel* from, AParcel* to, int32_t start, int32_t size) {
+    if (from == nullptr || to == nullptr) return STATUS_UNEXPECTED_NULL;
+    if (start < 0 || size < 0 || static_cast<size_t>(start) > from->data.size() ||
+        static_cast<size_t>(size) > from->data.size() - static_cast<size_t>(start)) {
+        return STATUS_BAD_VALUE;
+    }
+    if (size == 0) return STATUS_OK;
+    uint8_t* where = reserve(to, static_cast<size_t>(size));
+    if (where == nullptr) return STATUS_NO_MEMORY;
+    memcpy(where, from->data.data() + start, static_cast<size_t>(size));
+    return STATUS_OK;
+}
+
 binder_status_t AParcel_writeInt32(AParcel* parcel, int32_t value) {
     return write_value(parcel, value);
 }
