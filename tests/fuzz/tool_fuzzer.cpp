@@ -20,6 +20,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <iterator>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -104,7 +105,7 @@ int saved[3];   // the standard descriptors as the fuzzer has them
 int output;     // the tool's standard output in a run: a pipe
 int captured;   // the pipe's other end
 int reports;    // where a broken rule is reported: standard error as the fuzzer started
-bool open_before[kCheckedFds];
+std::string shown;  // the input's command line, for the report
 bool running = false;
 
 struct ProcessEnded {
@@ -113,31 +114,6 @@ struct ProcessEnded {
 
 [[noreturn]] void end_run(int status) {
     throw ProcessEnded{status};
-}
-
-template <typename T, size_t N>
-const T& pick(FuzzedDataProvider& in, const T (&items)[N]) {
-    return items[in.ConsumeIntegralInRange<size_t>(0, N - 1)];
-}
-
-// One argument; `listed` turns false unless it is a word of the front end's lists or a number.
-std::string argument(FuzzedDataProvider& in, bool& listed) {
-    switch (in.ConsumeIntegralInRange(0, 3)) {
-        case 0:
-            return listed_words[in.ConsumeIntegralInRange<size_t>(0, listed_words.size() - 1)];
-        case 1:
-            return std::to_string(in.ConsumeIntegral<uint64_t>() >> in.ConsumeIntegralInRange(0, 63));
-        case 2:
-            listed = false;
-            return pick(in, kHandlerWords);
-        default:
-            listed = false;
-            return in.ConsumeRandomLengthString(24);
-    }
-}
-
-bool is_open(int fd) {
-    return fcntl(fd, F_GETFD) != -1;
 }
 
 int moved_up(int fd) {
@@ -174,11 +150,110 @@ void set_up() {
     __android_log_print(ANDROID_LOG_INFO, "tool_fuzzer", "%s", "start");
 }
 
+// One argument; `accepted` turns false unless it is a word of the front end's lists or a number.
+std::string argument(FuzzedDataProvider& in, bool& accepted) {
+    switch (in.ConsumeIntegralInRange(0, 3)) {
+        case 0:
+            return listed_words[in.ConsumeIntegralInRange<size_t>(0, listed_words.size() - 1)];
+        case 1:
+            return std::to_string(in.ConsumeIntegral<uint64_t>() >> in.ConsumeIntegralInRange(0, 63));
+        case 2:
+            accepted = false;
+            return kHandlerWords[in.ConsumeIntegralInRange<size_t>(0, std::size(kHandlerWords) - 1)];
+        default:
+            accepted = false;
+            return in.ConsumeRandomLengthString(24);
+    }
+}
+
+// The command line: a command word of the table, any word or none, and up to five arguments, as
+// the tool sees them (up to a NUL). `accepted`: the front end must take it.
+std::vector<std::string> command_line(FuzzedDataProvider& in, bool& accepted) {
+    std::vector<std::string> args{"vexilctl"};
+    const size_t choice = in.ConsumeIntegralInRange<size_t>(0, forms.size() + 1);
+    if (choice < forms.size()) args.push_back(forms[choice].command);
+    if (choice == forms.size()) args.push_back(in.ConsumeRandomLengthString(16));
+    accepted = choice < forms.size();
+    for (int n = in.ConsumeIntegralInRange(0, 5); n > 0; --n) args.push_back(argument(in, accepted));
+    shown.clear();
+    for (std::string& arg : args) {
+        arg.resize(strlen(arg.c_str()));
+        shown += arg + " ";
+    }
+    for (const char* counted : kCounted) accepted = accepted && args[1] != counted;
+    return args;
+}
+
+bool is_open(int fd) {
+    return fcntl(fd, F_GETFD) != -1;
+}
+
+// Runs the tool on the command line with the standard descriptors in `closed` (bit n: fd n)
+// closed; its exit status, and in `out` what it wrote to standard output.
+int run(std::vector<std::string>& args, unsigned closed, std::string& out) {
+    std::vector<char*> argv;
+    for (std::string& arg : args) argv.push_back(arg.data());
+    argv.push_back(nullptr);
+    for (int fd = 0; fd < 3; ++fd) {
+        if ((closed & (1u << fd)) != 0) {
+            close(fd);
+        } else {
+            dup2(fd == 1 ? output : saved[fd], fd);
+        }
+    }
+    int status;
+    running = true;
+    try {
+        status = std::make_shared<tarn::RequestManager>()->process_command(
+            static_cast<int>(args.size()), argv.data());
+    } catch (const ProcessEnded& ended) {
+        status = ended.status;
+    }
+    running = false;
+    fflush(stdout);  // as exit() does
+    clearerr(stdout);
+    for (int fd = 0; fd < 3; ++fd) dup2(saved[fd], fd);
+    char bytes[4096];
+    for (ssize_t got; (got = read(captured, bytes, sizeof(bytes))) > 0;) out.append(bytes, got);
+    return status;
+}
+
+// Whether standard output is one of the command's forms.
+bool is_result_form(const std::string& command, const std::string& out,
+                    const fuzz::Journal& journal) {
+    if (command == "getlogpath" && journal.path &&
+        out == "OK,logpath:" + std::string(journal.path->c_str()) + "\n") {
+        return true;
+    }
+    for (const Form& form : forms) {
+        if (form.command == command && std::regex_match(out, form.output)) return true;
+    }
+    return false;
+}
+
+// Whether every write of the service came after reads that did not fail, or that the command
+// deliberately goes past.
+bool writes_after_good_reads(const std::string& command, const fuzz::Journal& journal) {
+    const std::vector<fuzz::Call>& calls = journal.calls;
+    for (auto write = calls.begin(); write != calls.end(); ++write) {
+        if (!write->write) continue;
+        for (auto read = calls.begin(); read != write; ++read) {
+            bool deliberate = read->failure == 0;
+            for (const auto& rule : kWriteAfterFailedRead) {
+                deliberate = deliberate || (command == rule.command && read->code == rule.read &&
+                                            (rule.failures & read->failure) != 0);
+            }
+            if (!deliberate) return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 [[noreturn]] void fuzz::fail(const char* rule) {
     for (int fd = 0; fd < 3; ++fd) dup2(saved[fd], fd);
-    dprintf(reports, "tool_fuzzer: %s\n", rule);
+    dprintf(reports, "tool_fuzzer: %s: %s\n", rule, shown.c_str());
     abort();
 }
 
@@ -202,86 +277,34 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const bool ready = (set_up(), true);
     (void)ready;
     FuzzedDataProvider in(data, size);
-
-    // The command line.
-    std::vector<std::string> args{"vexilctl"};
-    const size_t choice = in.ConsumeIntegralInRange<size_t>(0, forms.size() + 1);
-    if (choice < forms.size()) args.push_back(forms[choice].command);
-    if (choice == forms.size()) args.push_back(in.ConsumeRandomLengthString(16));
-    bool listed = choice < forms.size();
-    for (int n = in.ConsumeIntegralInRange(0, 5); n > 0; --n) args.push_back(argument(in, listed));
-    std::vector<char*> argv;
-    for (std::string& arg : args) {
-        arg.resize(strlen(arg.c_str()));  // what the tool sees of it
-        argv.push_back(arg.data());
-    }
-    argv.push_back(nullptr);
+    bool accepted = false;
+    std::vector<std::string> args = command_line(in, accepted);
     const std::string command = args.size() > 1 ? args[1] : "";
     if (command == "dbg") return 0;
-    for (const char* counted : kCounted) listed = listed && command != counted;
-
-    // The standard descriptors: each open or closed, as the tool may be started. (The fuzzer
-    // itself may open some between inputs: its symbolizer's pipes.)
-    for (int fd = 0; fd < kCheckedFds; ++fd) open_before[fd] = is_open(fd);
     const unsigned state = in.ConsumeIntegralInRange(0, 15);
-    const unsigned closed = state < 8 ? state : 0;
-    for (int fd = 0; fd < 3; ++fd) {
-        if (closed & (1u << fd)) {
-            close(fd);
-        } else {
-            dup2(fd == 1 ? output : saved[fd], fd);
-        }
-    }
+    const unsigned closed = state < 8 ? state : 0;  // half the inputs start with all three open
+    // The fuzzer itself opens some between inputs (its symbolizer's pipes).
+    bool open_before[kCheckedFds];
+    for (int fd = 0; fd < kCheckedFds; ++fd) open_before[fd] = is_open(fd);
 
     fuzz::start_device(in);
-    int status;
-    running = true;
-    try {
-        status = std::make_shared<tarn::RequestManager>()->process_command(
-            static_cast<int>(args.size()), argv.data());
-    } catch (const ProcessEnded& ended) {
-        status = ended.status;
-    }
-    running = false;
-    fflush(stdout);
-    clearerr(stdout);
-    const fuzz::Journal& journal = fuzz::end_device();
-    for (int fd = 0; fd < 3; ++fd) dup2(saved[fd], fd);
     std::string out;
-    char bytes[4096];
-    for (ssize_t got; (got = read(captured, bytes, sizeof(bytes))) > 0;) out.append(bytes, got);
+    const int status = run(args, closed, out);
+    const fuzz::Journal& journal = fuzz::end_device();
 
     if (status != 0 && status != 1) fuzz::fail("an exit status other than 0 and 1");
     if (status == 1 && (journal.lookups != 0 || journal.connections != 0 || !out.empty())) {
         fuzz::fail("the command line was refused, yet the tool went on");
     }
-    if (listed && status != 0) fuzz::fail("a command line of listed words was refused");
-    if ((closed & 2) == 0 && !out.empty()) {
-        bool allowed = false;
-        for (const Form& form : forms) {
-            allowed = allowed || (form.command == command && std::regex_match(out, form.output));
-        }
-        if (command == "getlogpath" && journal.path) {
-            allowed = allowed || out == "OK,logpath:" + std::string(journal.path->c_str()) + "\n";
-        }
-        if (!allowed) { dprintf(reports, "CMD [%s] OUT [%s]\n", command.c_str(), out.c_str()); fuzz::fail("standard output is not the command's result form"); }
+    if (accepted && status != 0) fuzz::fail("a command line of listed words was refused");
+    if (!out.empty() && !is_result_form(command, out, journal)) {
+        fuzz::fail(("standard output is not the command's result form: " + out).c_str());
     }
     const std::string& sent = journal.sent;
     if (!sent.empty() && (sent.back() != '\n' || sent.find('\n') != sent.size() - 1)) {
-        fuzz::fail("vexilserver got more than one request line");
+        fuzz::fail(("vexilserver got more than one request line: " + sent).c_str());
     }
-    for (size_t write = 0; write < journal.calls.size(); ++write) {
-        if (!journal.calls[write].write) continue;
-        for (size_t read = 0; read < write; ++read) {
-            const fuzz::Call& call = journal.calls[read];
-            bool deliberate = call.failure == 0;
-            for (const auto& rule : kWriteAfterFailedRead) {
-                deliberate = deliberate || (command == rule.command && call.code == rule.read &&
-                                            (rule.failures & call.failure) != 0);
-            }
-            if (!deliberate) fuzz::fail("a write after a read that failed");
-        }
-    }
+    if (!writes_after_good_reads(command, journal)) fuzz::fail("a write after a failed read");
     for (int fd = 0; fd < kCheckedFds; ++fd) {
         if (is_open(fd) != open_before[fd]) fuzz::fail("a descriptor left behind");
     }
