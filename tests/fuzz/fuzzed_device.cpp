@@ -41,12 +41,12 @@ constexpr uint32_t kStateReads[] = {I::TRANSACTION_getSubsystemAutoReboot,
 constexpr uint32_t kValueReads[] = {I::TRANSACTION_getCurrentParentLogPath,
                                     I::TRANSACTION_getPreferredStorageMedia};
 constexpr uint32_t kWrites[] = {
-    I::TRANSACTION_setAgdspLogSettings,       I::TRANSACTION_setCellularLogSettings,
+    I::TRANSACTION_setAgdspLogSettings,        I::TRANSACTION_setCellularLogSettings,
     I::TRANSACTION_setConnectivityLogSettings, I::TRANSACTION_setCurrentParentLogPath,
-    I::TRANSACTION_setPmSensorHubLogSettings, I::TRANSACTION_setPreferredStorageMedia,
-    I::TRANSACTION_setSensorHubLogSettings,   I::TRANSACTION_setSubsystemAutoReboot,
-    I::TRANSACTION_setSubsystemStorageParam,  I::TRANSACTION_setMipiLogConfig,
-    I::TRANSACTION_setPsLogModuleConfig,      I::TRANSACTION_setCellularModemIoSettings,
+    I::TRANSACTION_setPmSensorHubLogSettings,  I::TRANSACTION_setPreferredStorageMedia,
+    I::TRANSACTION_setSensorHubLogSettings,    I::TRANSACTION_setSubsystemAutoReboot,
+    I::TRANSACTION_setSubsystemStorageParam,   I::TRANSACTION_setMipiLogConfig,
+    I::TRANSACTION_setPsLogModuleConfig,       I::TRANSACTION_setCellularModemIoSettings,
 };
 
 // Descriptors of the device side are kept at or above this, clear of those the tool gets.
@@ -88,9 +88,9 @@ int server = -1;  // the daemon's end of the tool's vexilserver connection
 
 struct Device {
     // The generated stub over the default implementation: it reads each request the tool sends.
-    ndk::SpAIBinder stub = ndk::SharedRefBase::make<ISysLogControlDelegator>(
-                               ndk::SharedRefBase::make<Unimplemented>())
-                               ->asBinder();
+    ndk::SpAIBinder stub =
+        ndk::SharedRefBase::make<ISysLogControlDelegator>(ndk::SharedRefBase::make<Unimplemented>())
+            ->asBinder();
     // What the tool's proxy transacts with: the stub reads the request, the input answers it.
     AIBinder_Class* answering = AIBinder_Class_define(
         I::descriptor, [](void* args) { return args; }, [](void*) {}, &answer);
@@ -102,8 +102,8 @@ struct Device {
     AIBinder* service =
         AIBinder_new(AIBinder_getClass(stub.get()), static_cast<ndk::ICInterface*>(proxy.get()));
     AIBinder* other = AIBinder_new(
-        AIBinder_Class_define("fuzz.NotTheLogControl", [](void* args) { return args; },
-                              [](void*) {}, &answer),
+        AIBinder_Class_define(
+            "fuzz.NotTheLogControl", [](void* args) { return args; }, [](void*) {}, &answer),
         nullptr);
 
     static binder_status_t answer(AIBinder*, transaction_code_t code, const AParcel* in,
@@ -115,8 +115,7 @@ void die() {
     for (const auto& [died, cookie] : links) died(cookie);
 }
 
-binder_status_t Device::answer(AIBinder*, transaction_code_t code, const AParcel* in,
-                               AParcel* out) {
+binder_status_t Device::answer(AIBinder*, transaction_code_t code, const AParcel* in, AParcel* out) {
     ndk::ScopedAParcel request;
     ndk::ScopedAParcel reply;
     AIBinder_prepareTransaction(device->stub.get(), request.getR());

@@ -18,8 +18,8 @@ namespace fuzz {
 enum Failure : unsigned {
     kStatus = 1,
     kMinusOne = 2,
-    kMinusThree = 4,     // not supported
-    kOtherResult = 8,    // any other result code but 0
+    kMinusThree = 4,   // not supported
+    kOtherResult = 8,  // any other result code but 0
 };
 
 // One service call: its transaction code and, for a read, how it failed (0: it did not).
