@@ -18,6 +18,7 @@
 #include "host/emulator/LogSink.h"
 #include "host/emulator/ServiceProcess.h"
 #include "host/emulator/SharedState.h"
+#include "host/emulator/StateFile.h"
 #include "host/emulator/VexilProtocol.h"
 #include "host/emulator/VexilServer.h"
 
