@@ -16,9 +16,9 @@
 #include <string>
 #include <thread>
 
+#include "debug/TarnDebug.h"
 #include "host/emulator/AbstractSocket.h"
 #include "host/emulator/LogSink.h"
-#include "debug/TarnDebug.h"
 
 namespace tarn {
 namespace {
