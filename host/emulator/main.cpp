@@ -1,7 +1,7 @@
 // tarnmodem: host stand-in for the device's log daemon. Serves the log-control service (in a
 // process of its own), the vexilserver command socket and the log sink until SIGTERM or SIGINT;
 // SIGHUP reads the state file again.
-#include <host/log_sink.h>
+#include <host/log_datagram.h>
 #include <pthread.h>
 #include <signal.h>
 #include <sys/prctl.h>

@@ -3,7 +3,7 @@
 // close that fails. The log lines are read from the host log sink.
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <host/log_sink.h>
+#include <host/log_datagram.h>
 #include <poll.h>
 #include <stdlib.h>
 #include <sys/socket.h>
