@@ -23,7 +23,9 @@ done
 llvm-profdata-14 merge -sparse "$build"/profiles/*.profraw -o "$build/fuzz.profdata"
 sources=(front service/*.cpp service/*.h requests server debug host/emulator)
 llvm-cov-14 report -instr-profile="$build/fuzz.profdata" "${objects[@]:1}" "${sources[@]}"
+# Each function with unreached lines ("file: function", demangled), then those lines.
 llvm-cov-14 show -instr-profile="$build/fuzz.profdata" "${objects[@]:1}" "${sources[@]}" \
     -show-line-counts-or-regions=false -format=text -line-coverage-lt=100 |
-    grep -E '^/|^ *[0-9]+\| *0\|' >"$build/unreached.txt" || true
+    grep -E '^[^ ]|^ *[0-9]+\| *0\|' | sed -E 's/^([^ ][^:]*):(.*):$/\1: \2/' |
+    llvm-cxxfilt-14 >"$build/unreached.txt" || true
 echo "coverage: lines no target reaches: $build/unreached.txt"
