@@ -49,8 +49,6 @@ constexpr uint32_t kWrites[] = {
     I::TRANSACTION_setPsLogModuleConfig,       I::TRANSACTION_setCellularModemIoSettings,
 };
 
-// Descriptors of the device side are kept at or above this, clear of those the tool gets.
-constexpr int kDeviceFds = 100;
 // Most 32-bit words of an answer: of most, and of a long one (a path of about 4 KB).
 constexpr size_t kAnswerWords = 40;
 constexpr size_t kLongAnswerWords = 1024;
@@ -236,7 +234,7 @@ extern "C" int __wrap_socket_local_client(const char* name, int namespace_id, in
         errno = ECONNREFUSED;
         return -1;
     }
-    fuzz::server = fcntl(ends[1], F_DUPFD_CLOEXEC, fuzz::kDeviceFds);
+    fuzz::server = fcntl(ends[1], F_DUPFD_CLOEXEC, fuzz::kHarnessFds);
     close(ends[1]);
     const std::string answer = input->ConsumeRandomLengthString(64);
     if (fate == 2) {

@@ -1,8 +1,8 @@
 // The device side of tool_fuzzer: the log-control service and the vexilserver socket in this
 // process, every answer taken from the fuzz input. The tool reaches them through the platform
-// calls it makes (AServiceManager_getService, AIBinder_linkToDeath, socket_local_client, poll),
-// which the fuzz build wraps at link time (-Wl,--wrap), so that the tool's sources stay as they
-// ship.
+// calls it makes (AServiceManager_getService, AIBinder_DeathRecipient_new, AIBinder_linkToDeath,
+// socket_local_client, poll), which the fuzz build wraps at link time (-Wl,--wrap), so that the
+// tool's sources stay as they ship.
 #pragma once
 
 #include <fuzzer/FuzzedDataProvider.h>
@@ -13,6 +13,10 @@
 #include <vector>
 
 namespace fuzz {
+
+// Descriptors of the harness and the device side are kept at or above this, clear of those the
+// tool gets.
+constexpr int kHarnessFds = 100;
 
 // How a read (a get operation) failed: its status, or the int it answered.
 enum Failure : unsigned {

@@ -71,7 +71,8 @@ const struct {
     {"getvexiltopcstate", "(on|off)\n"},
 };
 
-// The reads a command deliberately goes past, still writing, with the failures it goes past.
+// The reads a command deliberately goes past, still writing (fault_matrix.py's "write_after"),
+// with the failures it goes past.
 const struct {
     const char* command;
     uint32_t read;
@@ -83,6 +84,7 @@ const struct {
     {"setiolimit", I::TRANSACTION_getSubsystemPresence, fuzz::kMinusThree | fuzz::kOtherResult},
     // The current path is read for the log only.
     {"setlogpath", I::TRANSACTION_getCurrentParentLogPath, fuzz::kStatus},
+    // A refused read of the reset state does not stop the write; -3 (not supported) does.
     {"setcpreset", I::TRANSACTION_getSubsystemAutoReboot, fuzz::kStatus | fuzz::kMinusOne},
 };
 
@@ -90,8 +92,6 @@ const struct {
 const char* const kHandlerWords[] = {"on", "rstdmp", "skipboot"};
 // Commands that check how many arguments they get.
 const char* const kCounted[] = {"setmipilog", "setvexil", "setcpreset"};
-// Descriptors of this harness are kept at or above this, clear of those the tool gets.
-constexpr int kHarnessFds = 100;
 // The descriptors checked for being left behind: a leaked one takes the lowest free number.
 constexpr int kCheckedFds = 32;
 
@@ -117,7 +117,7 @@ struct ProcessEnded {
 }
 
 int moved_up(int fd) {
-    const int high = fcntl(fd, F_DUPFD_CLOEXEC, kHarnessFds);
+    const int high = fcntl(fd, F_DUPFD_CLOEXEC, fuzz::kHarnessFds);
     close(fd);
     return high;
 }
@@ -132,7 +132,7 @@ void set_up() {
     output = moved_up(ends[1]);
     fcntl(captured, F_SETFL, O_NONBLOCK);
     fcntl(output, F_SETFL, O_NONBLOCK);
-    for (int fd = 0; fd < 3; ++fd) saved[fd] = fcntl(fd, F_DUPFD_CLOEXEC, kHarnessFds);
+    for (int fd = 0; fd < 3; ++fd) saved[fd] = fcntl(fd, F_DUPFD_CLOEXEC, fuzz::kHarnessFds);
     for (const auto& command : kCommands) {
         std::istringstream words(command.words);
         std::string word;
@@ -267,7 +267,7 @@ extern "C" [[noreturn]] void __wrap__exit(int status) {
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     // Reports go where standard error is now, whatever an input or -close_fd_mask does to it.
-    reports = fcntl(2, F_DUPFD_CLOEXEC, kHarnessFds);
+    reports = fcntl(2, F_DUPFD_CLOEXEC, fuzz::kHarnessFds);
     if (__sanitizer_set_report_fd != nullptr) {
         __sanitizer_set_report_fd(reinterpret_cast<void*>(static_cast<intptr_t>(reports)));
     }
