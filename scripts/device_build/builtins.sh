@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
-# The compiler runtime archives a device module links, which Android ships with its clang
-# prebuilts (not in the tree): the builtins (emulated TLS among them) and the minimal UBSan
-# runtime of the integer sanitizer, taken from Debian's arm64 build of the same LLVM (14.0.6) as
-# build/device/prebuilts/<name>.a. Downloaded once, with a private apt state: the machine's own
-# is not touched.
+# The compiler runtimes a device module links, which Android ships with its clang prebuilts
+# (not in the tree): the builtins (emulated TLS among them) and the minimal UBSan runtime of the
+# integer sanitizer, and for the fuzzers libFuzzer and the UBSan runtime their libraries link,
+# taken from Debian's arm64 build of the same LLVM (14.0.6) as build/device/prebuilts/<name>.a
+# (.so). Downloaded once, with a private apt state: the machine's own is not touched.
 set -euo pipefail
 out=$SCRATCH/prebuilts
-names=(libclang_rt.builtins libclang_rt.ubsan_minimal)
-[ -f "$out/libclang_rt.builtins.a" ] && [ -f "$out/libclang_rt.ubsan_minimal.a" ] && exit 0
+names=(libclang_rt.builtins.a libclang_rt.ubsan_minimal.a libclang_rt.fuzzer.a libclang_rt.ubsan_standalone.so)
+missing=0
+for name in "${names[@]}"; do
+    [ -f "$out/$name" ] || missing=1
+done
+[ $missing = 1 ] || exit 0
 
 state=$out/apt
 rm -rf "$state" && mkdir -p "$state/lists/partial" "$state/cache/archives/partial" "$state/sources.list.d"
@@ -27,6 +31,6 @@ dpkg-deb -x "$state"/libclang-rt-14-dev_*_arm64.deb "$state/x"
 # --icf=safe warns about (an error under --fatal-warnings).
 for name in "${names[@]}"; do
     llvm-objcopy-14 --remove-section=.llvm_addrsig \
-        "$(find "$state/x" -name "$name-aarch64.a")" "$out/$name.a"
+        "$(find "$state/x" -name "${name%.*}-aarch64.${name##*.}")" "$out/$name"
 done
 rm -rf "$state"

@@ -5,7 +5,12 @@
 # sources and reduced to their dynamic symbols, bionic's crt objects, libc++demangle and the
 # compiler runtime; then the outputs checked as the device's loader will see them.
 set -euo pipefail
-[ -e "$SCRATCH/tree/out/build.ninja" ] || { echo "link: run the clang_compile step first" >&2; exit 1; }
+source "$ROOT/scripts/device_build/analysis.sh"
+require_analysis link
+[ -e "$SCRATCH/tree/out/build.ninja" ] || {
+    echo "link: run the clang_compile step first (bash scripts/check_device_build.sh clang_compile link)" >&2
+    exit 1
+}
 bash "$ROOT/scripts/device_build/builtins.sh"
 python3 "$ROOT/scripts/device_build/soong_ninja.py" link
 python3 "$ROOT/scripts/device_build/check_linked.py"

@@ -22,7 +22,19 @@ cp "$ROOT/scripts/device_build/vexilctl_blueprint_test.go" "$tree/system/tools/a
 
 export GOFLAGS=-mod=mod GOPROXY=off GO111MODULE=on GOTOOLCHAIN=local
 export GOCACHE=$SCRATCH/go/cache GOPATH=$SCRATCH/go/path
+source "$ROOT/scripts/device_build/analysis.sh"
+rm -f "$SCRATCH/actions.json" "$SCRATCH/actions.inputs"
+inputs=$(analysis_inputs)
 cd "$tree/system/tools/aidl/build"
+status=0
 VEXILCTL_ROOT=$ROOT VEXILCTL_AOSP=$AOSP_SRC VEXILCTL_ACTIONS=$SCRATCH/actions.json \
-    go test -count=1 -run '^TestVexilctlVendorTree$' . 2>&1 | tail -40
-exit "${PIPESTATUS[0]}"
+    go test -v -count=1 -run '^TestVexilctlVendorTree$' . >"$SCRATCH/soong.log" 2>&1 || status=$?
+grep -v '^=== RUN' "$SCRATCH/soong.log" | tail -40
+[ $status -eq 0 ] || exit $status
+# go test passes when its -run pattern matches nothing, and a test can skip itself.
+if ! grep -q '^--- PASS: TestVexilctlVendorTree ' "$SCRATCH/soong.log" || [ ! -f "$SCRATCH/actions.json" ]; then
+    echo "soong: TestVexilctlVendorTree did not run and pass (renamed, filtered or skipped), so" \
+        "nothing was analysed: scripts/device_build/vexilctl_blueprint_test.go must define it" >&2
+    exit 1
+fi
+echo "$inputs" >"$SCRATCH/actions.inputs"
