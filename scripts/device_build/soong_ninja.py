@@ -221,7 +221,17 @@ def run_ninja(target: str) -> int:
                         if line.startswith(("FAILED", "ninja: error")) or
                         re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)),
               file=sys.stderr)
+        hints(done.stdout)
     return done.returncode
+
+
+def hints(output: str) -> None:
+    """What a failure whose cause this check's tree subset hides means."""
+    if re.search(r"undefined symbol: (vtable for |typeinfo for )?android::base::", output):
+        print("link: android::base is libbase's, which this check has only as an empty stand-in"
+              " (its sources are not in AOSP_SRC), so a use of it fails here even with libbase in"
+              " shared_libs: use the C library or libutils instead, or check the change with m in a"
+              " full tree", file=sys.stderr)
 
 
 def main() -> int:
