@@ -90,7 +90,7 @@ def main(policy_file, service_contexts, tests_dir, daemon, daemon_socket, daemon
     pol = policy.Policy(policy_file, None, os.path.join(tests_dir, "libsepolwrap.so"))
 
     def allowed(source, target, tclass, perm) -> bool:
-        return any(perm in rule.perms for rule in pol.QueryExpandedTERule(
+        return any(perm in rule.perms for rule in pol.QueryTERule(
             scontext={source}, tcontext={target}, tclass={tclass}, perms={perm}))
 
     sources = tool_sources()
