@@ -226,7 +226,7 @@ check_variant() {
 variants=(user userdebug)
 pids=()
 for variant in "${variants[@]}"; do
-    check_variant "$variant" >"$work/$variant.report" 2>&1 &
+    check_variant "$variant" >"$work/$variant.report" 2>"$work/$variant.errors" &
     pids+=($!)
 done
 trap 'kill "${pids[@]}" 2>/dev/null || true' EXIT
@@ -256,12 +256,9 @@ else
 fi
 
 for i in "${!variants[@]}"; do
-    if wait "${pids[$i]}"; then
-        cat "$work/${variants[$i]}.report"
-    else
-        cat "$work/${variants[$i]}.report" >&2
-        status=1
-    fi
+    wait "${pids[$i]}" || status=1
+    cat "$work/${variants[$i]}.report"
+    cat "$work/${variants[$i]}.errors" >&2
 done
 pids=()
 

@@ -29,8 +29,11 @@ cd "$tree/system/tools/aidl/build"
 status=0
 VEXILCTL_ROOT=$ROOT VEXILCTL_AOSP=$AOSP_SRC VEXILCTL_ACTIONS=$SCRATCH/actions.json \
     go test -v -count=1 -run '^TestVexilctlVendorTree$' . >"$SCRATCH/soong.log" 2>&1 || status=$?
+if [ $status -ne 0 ]; then # the test's errors first
+    { grep -E '^\s+\S+\.go:[0-9]+: ' "$SCRATCH/soong.log" || true; grep -v '^=== RUN' "$SCRATCH/soong.log" | tail -40; } >&2
+    exit $status
+fi
 grep -v '^=== RUN' "$SCRATCH/soong.log" | tail -40
-[ $status -eq 0 ] || exit $status
 # go test passes when its -run pattern matches nothing, and a test can skip itself.
 if ! grep -q '^--- PASS: TestVexilctlVendorTree ' "$SCRATCH/soong.log" || [ ! -f "$SCRATCH/actions.json" ]; then
     echo "soong: TestVexilctlVendorTree did not run and pass (renamed, filtered or skipped), so" \

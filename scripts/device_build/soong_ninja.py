@@ -216,11 +216,11 @@ def run_ninja(target: str) -> int:
     done = subprocess.run(["nice", "-n", "10", "ninja", "-f", "out/build.ninja", "-k", "0", "-j2",
                            target], cwd=TREE, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                           text=True)
-    if done.returncode:  # the failing outputs and the tools' messages, without the command lines
-        print("\n".join(line for line in ANSI.sub("", done.stdout).splitlines()
-                        if line.startswith(("FAILED", "ninja: error")) or
-                        re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)),
-              file=sys.stderr)
+    if done.returncode:  # the tools' messages, then the failing outputs, without the command lines
+        lines = ANSI.sub("", done.stdout).splitlines()
+        print("\n".join([line for line in lines if re.search(
+            r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)] +
+            [line for line in lines if line.startswith(("FAILED", "ninja: error"))]), file=sys.stderr)
         hints(done.stdout)
     return done.returncode
 
