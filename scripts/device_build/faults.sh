@@ -16,12 +16,12 @@ save() { # FILE...: kept in the backup before the fault changes it
     local file
     for file in "$@"; do
         mkdir -p "$backup/files/$(dirname "$file")"
-        cp -p "$file" "$backup/files/$file"
+        cp "$file" "$backup/files/$file"
     done
 }
-restore() {
+restore() { # as a new write: ninja must see the file newer than what the fault built from it
     (cd "$backup/files" && find . -type f) | while read -r file; do
-        cp -p "$backup/files/$file" "$ROOT/$file"
+        cp "$backup/files/$file" "$ROOT/$file"
     done
     rm -rf "$backup/files" && mkdir -p "$backup/files"
     [ ${#created[@]} -eq 0 ] || rm -rf "${created[@]}"

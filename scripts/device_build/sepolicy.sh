@@ -201,8 +201,9 @@ check_variant() {
         "$tests/checkfc" -s "$out/policy" "$work/vendor_service_contexts" 2>&1); then
         say "$variant: checkfc passes file_contexts and service_contexts"
     else
-        fail "$variant: checkfc (each type in file_contexts needs file_type, dev_type or fs_type;" \
-            "in service_contexts service_manager_type: give it the attribute where it is declared):"
+        fail "$variant: checkfc: $(head -1 <<<"$result") (a type in file_contexts needs file_type," \
+            "dev_type or fs_type, one in service_contexts service_manager_type: give it the" \
+            "attribute where it is declared)"
         indent <<<"$result"
     fi
     if result=$(python3 "$tests/run.py" "$tests/sepolicy_tests.py" "${fc[@]}" -p "$out/policy" 2>&1); then
@@ -262,9 +263,8 @@ for i in "${!variants[@]}"; do
 done
 pids=()
 
+[ $status -eq 0 ] && say "policy ok" && echo "$stamp" >"$work/passed"
 if [ -f "$work/user/policy" ]; then
     code_policy || status=1
 fi
-
-[ $status -eq 0 ] && say "ok" && echo "$stamp" >"$work/passed"
 exit $status
