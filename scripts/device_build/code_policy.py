@@ -44,10 +44,10 @@ def tool_sources() -> dict:
 
 
 def one(sources: dict, pattern: str, what: str, form: str):
-    """The single match of pattern in the tool's sources, as (file, match); None after failing."""
-    found = [(f, m) for f, text in sources.items() for m in re.finditer(pattern, text)]
+    """The single match of pattern in the tool's sources, as (file, groups...); None after failing."""
+    found = [(f, *m.groups()) for f, text in sources.items() for m in re.finditer(pattern, text)]
     if len(found) != 1:
-        where = ", ".join(f for f, _ in found) or "nowhere"
+        where = ", ".join(f[0] for f in found) or "nowhere"
         fail(f"{what} must be defined once in the tool's sources, as {form} (found {len(found)}: {where})")
         return None
     return found[0]
@@ -58,8 +58,7 @@ def service_instance(sources: dict):
                 "the service instance", 'kServiceInstance = std::string(<interface>::descriptor) + "/<instance>"')
     if not found:
         return None
-    file, m = found
-    interface, suffix = m.groups()
+    file, interface, suffix = found
     if not re.search(r"AServiceManager_\w+\(\s*kServiceInstance\b", sources[file]):
         fail(f"{file}: kServiceInstance is not what the tool asks the service manager for")
     descriptors = {d for p in GENERATED.rglob(f"{interface}.cpp")
@@ -75,8 +74,7 @@ def socket_use(sources: dict):
                 "the vexilserver connection", "socket_local_client(<name constant>, <namespace>, <type>)")
     if not found:
         return None
-    file, m = found
-    name_constant, namespace, kind = m.groups()
+    file, name_constant, namespace, kind = found
     name = re.search(rf'\b{name_constant}\[\]\s*=\s*"([^"]*)"', sources[file])
     if not name:
         fail(f'{file}: the socket name {name_constant} is not defined there as {name_constant}[] = "<name>"')
