@@ -77,8 +77,12 @@ def check(path: Path, executable: bool, libraries: dict, report: list) -> list:
 def expected() -> list:
     """The modules to check: the fixed ones and every cc_fuzz of the project's Android.bp files
     (bpfmt puts a module's name first)."""
-    fuzzers = [name for bp in sorted(ROOT.glob("**/Android.bp")) if "build" not in bp.relative_to(ROOT).parts
-               for name in re.findall(r'^cc_fuzz \{\s*name: "([^"]+)"', bp.read_text(), re.M)]
+    fuzzers = []
+    for top, dirs, files in os.walk(ROOT):
+        dirs[:] = sorted(d for d in dirs if not (top == str(ROOT) and d in ("build", ".git")) and d != "node_modules")
+        if "Android.bp" in files:
+            text = Path(top, "Android.bp").read_text()
+            fuzzers += re.findall(r'^cc_fuzz \{\s*name: "([^"]+)"', text, re.M)
     return list(EXPECTED) + fuzzers
 
 

@@ -2,8 +2,10 @@
 # Soong's analysis of the project's Android.bp files: vexilctl_blueprint_test.go runs on Soong's
 # test fixture with the aidl_interface module type, from a scratch copy of the tree's Go sources
 # in build/device/go/ (Go's caches beside it). Writes build/device/actions.json, Soong's build
-# actions for the device modules and the platform libraries they link, for the compile and link
-# steps.
+# actions for the project's modules and the platform libraries they link (for the compile and
+# link steps) and the aidl compiler's (for aidl_compile and frozen_api), and records in
+# build/device/actions.inputs what it analysed (analysis.sh). Fails unless the test ran and
+# passed: go test passes when its -run pattern matches nothing.
 set -euo pipefail
 tree=$SCRATCH/go/tree
 mkdir -p "$tree/build" "$tree/system/tools/aidl" "$tree/external"
@@ -34,7 +36,7 @@ if [ $status -ne 0 ]; then # the test's errors first
     exit $status
 fi
 grep -v '^=== RUN' "$SCRATCH/soong.log" | tail -40
-# go test passes when its -run pattern matches nothing, and a test can skip itself.
+# A renamed or filtered test matches nothing, and a test can skip itself.
 if ! grep -q '^--- PASS: TestVexilctlVendorTree ' "$SCRATCH/soong.log" || [ ! -f "$SCRATCH/actions.json" ]; then
     echo "soong: TestVexilctlVendorTree did not run and pass (renamed, filtered or skipped), so" \
         "nothing was analysed: scripts/device_build/vexilctl_blueprint_test.go must define it" >&2

@@ -405,6 +405,13 @@ func closureActions(ctx *android.TestContext, roots []blueprint.Module) []vexilc
 	return actions
 }
 
+// What the test checks of a module of the project (each cc_fuzz at least for its variant).
+type vexilctlWanted struct {
+	variant  string
+	needs    []string // sources the module must compile
+	installs []string // install locations under the product directory
+}
+
 func TestVexilctlVendorTree(t *testing.T) {
 	root, aosp := os.Getenv("VEXILCTL_ROOT"), os.Getenv("VEXILCTL_AOSP")
 	if root == "" || aosp == "" {
@@ -432,11 +439,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	).RunTest(t)
 	ctx := result.TestContext
 
-	wanted := map[string]struct {
-		variant  string
-		needs    []string // sources the module must compile
-		installs []string // install locations under the product directory
-	}{
+	wanted := map[string]vexilctlWanted{
 		"vexilctl": {"", []string{"front/main.cpp", "front/RequestManager.cpp"},
 			[]string{"vendor/bin/vexilctl"}},
 		"vexilctl_unit_tests": {"", []string{"tests/unit/front_usage_test.cpp"},
@@ -446,11 +449,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	}
 	for _, name := range vexilctlFuzzers(ctx) {
 		if _, known := wanted[name]; !known {
-			wanted[name] = struct {
-				variant  string
-				needs    []string
-				installs []string
-			}{variant: "_fuzzer"}
+			wanted[name] = vexilctlWanted{variant: "_fuzzer"}
 		}
 	}
 	names := make([]string, 0, len(wanted))
