@@ -35,9 +35,12 @@ tree_message() { # MESSAGE_FILE
         echo "In this project: API_UPDATE=1 bash scripts/check_device_build.sh soong frozen_api" \
             "rewrites current/ from the sources (m's $name-update-api); the tool links version 1," \
             "so current/ must also stay equal to the newest frozen version." >&2 ;;
+    message_check_compatibility.txt)
+        echo "In this project: undo the incompatible change in service/aidl/ and current/ (a" \
+            "new version keeps every method and field of the one before)." >&2 ;;
     *)
-        echo "In this project: restore ${api#$ROOT/}'s frozen versions (git checkout" \
-            "${api#$ROOT/}); change the API in the sources and in current/ only." >&2 ;;
+        echo "In this project: a frozen version's files never change: restore them (git" \
+            "checkout ${api#$ROOT/})." >&2 ;;
     esac
 }
 check() { # LEVEL OLD NEW MESSAGE_FILE
