@@ -3,14 +3,14 @@
 # of its files (Soong expands the source globs), the Go test and the Android tree. The soong step
 # records that beside the actions; a step run alone refuses actions made from anything else.
 
-# A digest of what the analysis depends on.
+# A digest of what the analysis depends on (the files the Go test reads: not build/, .git,
+# node_modules or Python's caches).
 analysis_inputs() {
+    local skip=(\( -path ./build -o -path ./.git -o -name node_modules -o -name __pycache__ \) -prune -o)
     (
         cd "$ROOT"
-        find . \( -path ./build -o -path ./.git -o -name node_modules \) -prune -o -type f -print |
-            LC_ALL=C sort
-        find . \( -path ./build -o -path ./.git -o -name node_modules \) -prune -o -name Android.bp \
-            -print0 | LC_ALL=C sort -z | xargs -0 sha1sum
+        find . "${skip[@]}" -type f -print | LC_ALL=C sort
+        find . "${skip[@]}" -name Android.bp -print0 | LC_ALL=C sort -z | xargs -0 sha1sum
         sha1sum scripts/device_build/vexilctl_blueprint_test.go
         echo "$AOSP_SRC"
     ) | sha1sum | cut -c1-40

@@ -256,7 +256,7 @@ func vexilctlFiles(t *testing.T, root string) map[string][]byte {
 		}
 		rel, _ := filepath.Rel(root, path)
 		if info.IsDir() {
-			if skip[rel] {
+			if skip[rel] || info.Name() == "__pycache__" { // Python's caches beside its scripts
 				return filepath.SkipDir
 			}
 			return nil
