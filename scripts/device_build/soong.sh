@@ -3,7 +3,8 @@
 # test fixture with the aidl_interface module type, from a scratch copy of the tree's Go sources
 # in build/device/go/ (Go's caches beside it). Writes build/device/actions.json, Soong's build
 # actions for the device modules and the platform libraries they link, for the compile and link
-# steps.
+# steps, and build/device/runtime.json, those of Android 13's runtime that they load
+# (runtime_blueprint_test.go), for the runtime step.
 set -euo pipefail
 tree=$SCRATCH/go/tree
 mkdir -p "$tree/build" "$tree/system/tools/aidl" "$tree/external"
@@ -18,11 +19,12 @@ ln -sfn "$(external go-cmp /usr/share/gocode/src/github.com/google/go-cmp)" "$tr
 ln -sfn "$(external golang-protobuf /usr/share/gocode/src/google.golang.org/protobuf)" \
     "$tree/external/golang-protobuf"
 
-cp "$ROOT/scripts/device_build/vexilctl_blueprint_test.go" "$tree/system/tools/aidl/build/"
+cp "$ROOT"/scripts/device_build/*_test.go "$tree/system/tools/aidl/build/"
 
 export GOFLAGS=-mod=mod GOPROXY=off GO111MODULE=on GOTOOLCHAIN=local
 export GOCACHE=$SCRATCH/go/cache GOPATH=$SCRATCH/go/path
 cd "$tree/system/tools/aidl/build"
 VEXILCTL_ROOT=$ROOT VEXILCTL_AOSP=$AOSP_SRC VEXILCTL_ACTIONS=$SCRATCH/actions.json \
+    VEXILCTL_RUNTIME=$SCRATCH/runtime.json \
     go test -count=1 -run '^TestVexilctlVendorTree$' . 2>&1 | tail -40
 exit "${PIPESTATUS[0]}"

@@ -8,6 +8,7 @@ tree's root, with clang 14 and lld for aarch64-linux-android33.
     soong_ninja.py compile   every source of the device modules, the generated library's too
     soong_ninja.py link      the platform's stubs and libraries, then the tool, its library and
                              the unit tests, linked
+    soong_ninja.py runtime   Android 13's runtime that these load (runtime_ninja.py)
 
 A rerun builds only what changed (the platform's libraries once)."""
 
@@ -17,6 +18,8 @@ import re
 import subprocess
 import sys
 from pathlib import Path
+
+import runtime_ninja
 
 ROOT, AOSP, SCRATCH = (Path(os.environ[k]) for k in ("ROOT", "AOSP_SRC", "SCRATCH"))
 TREE = SCRATCH / "tree"
@@ -29,12 +32,6 @@ NDK_GEN = ("out/soong/.intermediates/vendor/kest/vexilctl/service/aidl/"
 COMPILED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
 FUZZERS = ("vexilctl_front_fuzzer", "vexilctl_response_fuzzer")
 LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
-# The VNDK libraries vendor code links against as their sources export them: built here, then
-# reduced to the symbols they define. What they link from outside the tree subset is missing
-# (libbase's sources: its library is empty; libvndksupport's symbol file: left out), so they
-# link without --no-undefined.
-VNDK = {"libc++", "libcutils", "libutils"}
-ABSENT = ("out/soong/.intermediates/system/core/libvndksupport/",)
 
 RULES = """
 rule cc
@@ -76,6 +73,22 @@ def escape(text: str) -> str:
     return text.replace("$", "$$")
 
 
+# Links of a checkout that the subset does not keep (it has their targets): build/tools, and the
+# parts of system/core/include (in every platform module's include path) that the runtime reads.
+CHECKOUT_LINKS = {"build/tools": "make/tools",
+                  "system/core/include/system": "../libsystem/include/system",
+                  "system/core/include/utils": "../libutils/include/utils"}
+
+
+def in_checkout(path: Path) -> Path:
+    """The path a checkout's links lead to."""
+    path = Path(os.path.normpath(path))
+    for link, target in CHECKOUT_LINKS.items():
+        if path.is_relative_to(AOSP / link):
+            return Path(os.path.normpath(AOSP / link / ".." / target)) / path.relative_to(AOSP / link)
+    return path
+
+
 def archived_symlinks(top: Path) -> dict:
     """Files of the tree that its projects keep as symbolic links, archived as a file holding the
     link's target (libcutils' include_outside_system, liblog's include_vndk, ...)."""
@@ -83,29 +96,40 @@ def archived_symlinks(top: Path) -> dict:
     for path in top.rglob("*"):
         if path.is_file() and not path.is_symlink() and path.stat().st_size < 256:
             text = path.read_bytes()
-            if text.startswith(b"../") and b"\n" not in text and (path.parent / text.decode()).exists():
+            if text.startswith(b"../") and b"\n" not in text and in_checkout(path.parent / text.decode()).exists():
                 found[path] = text.decode()
     return found
 
 
 def link_tree(source: Path, dest: Path, links: dict) -> None:
-    """dest mirrors source: a symbolic link to it, or, where archived links lie beneath, a
-    directory of links to its entries with those links restored."""
+    """dest mirrors source: a symbolic link to it, or, where links lie beneath (archived ones, or
+    ones the subset lacks), a directory of links to its entries with those links made."""
+    beneath = [link for link in links if link.is_relative_to(source) and link != source]
     if source in links:
         dest.symlink_to(links[source])
-    elif not source.is_dir() or not any(link.is_relative_to(source) for link in links):
+    elif not beneath:
         dest.symlink_to(source)
     else:
         dest.mkdir()
-        for entry in source.iterdir():
-            link_tree(entry, dest / entry.name, links)
+        names = {entry.name for entry in source.iterdir()} if source.is_dir() else set()
+        names |= {link.relative_to(source).parts[0] for link in beneath}
+        for name in sorted(names):
+            link_tree(source / name, dest / name, links)
 
 
 def make_tree(api_levels: dict) -> None:
-    projects = ("bionic", "external", "frameworks", "system")
+    projects = ("bionic", "build", "external", "frameworks", "system")
     links = {p: t for d in projects for p, t in archived_symlinks(AOSP / d).items()}
+    links.update({AOSP / link: target for link, target in CHECKOUT_LINKS.items()})
+    places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk"}
+    places.update({f"defaults/cc/common/{name}-aarch64-android.a": SCRATCH / "prebuilts" / f"{name}.a"
+                   for name in ("libclang_rt.builtins", "libclang_rt.ubsan_minimal")})
+    places.update({"defaults/cc/common/libunwind.a": SCRATCH / "prebuilts/libunwind.a",
+                   "prebuilts/clang/host/linux-x86/libunwind-exported.a":
+                       SCRATCH / "prebuilts/libunwind-exported.a"})
     stamp = TREE / "out/tree.stamp"
-    state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links))])
+    state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links)),
+                        sorted((rel, str(target)) for rel, target in places.items())])
     if not stamp.exists() or stamp.read_text() != state:
         for entry in TREE.glob("*"):
             if entry.name != "out":
@@ -113,9 +137,6 @@ def make_tree(api_levels: dict) -> None:
         (TREE / "out").mkdir(parents=True, exist_ok=True)
         for project in projects:
             link_tree(AOSP / project, TREE / project, links)
-        places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk"}
-        places.update({f"defaults/cc/common/{name}-aarch64-android.a": SCRATCH / "prebuilts" / f"{name}.a"
-                       for name in ("libclang_rt.builtins", "libclang_rt.ubsan_minimal")})
         for rel, target in places.items():
             (TREE / rel).parent.mkdir(parents=True, exist_ok=True)
             (TREE / rel).unlink(missing_ok=True)
@@ -134,11 +155,10 @@ def statement(action: dict) -> list:
         args["ccCmd"] = tool(args["ccCmd"])
     if "ldCmd" in args:
         args["ldCmd"] = tool(args["ldCmd"])
+    if rule in runtime_ninja.RULE_NAMES:
+        args = runtime_ninja.prepare(action, TREE)
     inputs = action["Inputs"]
     implicits = [p for p in action["Implicits"] or [] if not p.endswith(".toc")]
-    if rule == "ld" and action["Module"] in VNDK:
-        args["ldFlags"] = args["ldFlags"].replace("-Wl,--no-undefined ", "")
-        args["libFlags"] = " ".join(f for f in args["libFlags"].split() if not f.startswith(ABSENT))
     if rule == "ld":  # the libraries it links, in place of their tables of contents
         implicits += [f for f in args["libFlags"].split() if f.endswith((".so", ".a"))]
     if rule == "strip":  # the project's outputs are stripped, the platform's libraries reduced
@@ -153,11 +173,12 @@ def statement(action: dict) -> list:
 
 def write_ninja() -> tuple:
     data = json.loads((SCRATCH / "actions.json").read_text())
+    runtime = runtime_ninja.load(SCRATCH)
     make_tree(data["ApiLevels"])
-    lines = [f"builddir = out", f"aosp = {AOSP}", RULES]
+    lines = [f"builddir = out", f"aosp = {AOSP}", RULES, runtime_ninja.RULES]
     outputs, compiled, linked = set(), [], []
     shared = {a["Inputs"][0] for a in data["Actions"] if a["Rule"] == "cc" and a["Module"] in COMPILED}
-    for action in data["Actions"]:
+    for action in data["Actions"] + (runtime["Actions"] if runtime else []):
         out = action["Outputs"][0]
         if out in outputs:
             continue
@@ -169,6 +190,9 @@ def write_ninja() -> tuple:
         if action["Module"] in LINKED and action["Rule"] == "ld":
             linked.append(out)
     lines += [f"build compile: phony {' '.join(compiled)}", f"build link: phony {' '.join(linked)}"]
+    lines.append(f"build headers: phony {' '.join(runtime_ninja.headers(runtime) if runtime else [])}")
+    if runtime:
+        lines.append(f"build runtime: phony {' '.join(runtime_ninja.targets(runtime))}")
     path = TREE / "out/build.ninja"
     text = "\n".join(lines) + "\n"
     if not path.exists() or path.read_text() != text:
@@ -194,9 +218,10 @@ def run_ninja(target: str) -> int:
 def main() -> int:
     step = sys.argv[1]
     compiled, linked = write_ninja()
-    status = run_ninja(step)
-    count = len(compiled) if step == "compile" else len(linked)
-    print(f"{step}: {count} {'sources' if step == 'compile' else 'outputs'} for the device")
+    status = run_ninja("headers") or run_ninja(step)
+    count = {"compile": len(compiled), "link": len(linked)}.get(step)
+    if count is not None:
+        print(f"{step}: {count} {'sources' if step == 'compile' else 'outputs'} for the device")
     return status
 
 
