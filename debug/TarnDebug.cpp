@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "front/RequestManager.h"
-#include "service/TarnLog.h"
+#include "front/TarnLog.h"
 
 namespace tarn {
 

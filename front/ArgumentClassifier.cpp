@@ -1,11 +1,10 @@
 #include "front/ArgumentClassifier.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
-#include "front/RequestManager.h"
+#include "front/ArgumentChecks.h"
 
 namespace tarn {
 namespace {
@@ -13,10 +12,6 @@ namespace {
 bool is_one_of(const char* word, std::initializer_list<const char*> names) {
     return std::any_of(names.begin(), names.end(),
                        [word](const char* name) { return strcmp(word, name) == 0; });
-}
-
-void report_missing_argument_alone() {
-    fprintf(stderr, "Missing argument.\n");
 }
 
 // Every word must be a recognised word or a number; a log destination ends the check.
@@ -45,14 +40,8 @@ int classify_words(int argc, char** argv, const ArgumentWords& words, Options& o
 
 }  // namespace
 
-bool WordList::contains(const char* word) const {
-    return std::any_of(words_, words_ + count_,
-                       [word](const char* listed) { return strcmp(word, listed) == 0; });
-}
-
-void report_missing_argument() {
-    report_missing_argument_alone();
-    RequestManager::usage();
+bool is_number(const std::string& word) {
+    return word.find_first_not_of("0123456789") == std::string::npos;
 }
 
 int classify_arguments(int argc, char** argv, const ArgumentWords& words, Options& opts) {
@@ -66,7 +55,7 @@ int classify_arguments(int argc, char** argv, const ArgumentWords& words, Option
     }
     if (strcmp(command, "setmipilog") == 0) {
         if (argc != 5) {
-            report_missing_argument_alone();
+            complain_missing_argument();  // the one refusal without the usage text
             return 1;
         }
         opts.cmd = argv[2];

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "front/ArgumentWords.h"
 #include "front/Options.h"
 
@@ -9,7 +11,7 @@ namespace tarn {
 // command's handler may run, or 1 after writing the complaint to stderr.
 int classify_arguments(int argc, char** argv, const ArgumentWords& words, Options& opts);
 
-// Writes "Missing argument." and the error usage text to stderr.
-void report_missing_argument();
+// True when the word is empty or holds only the digits 0 to 9.
+bool is_number(const std::string& word);
 
 }  // namespace tarn

@@ -17,7 +17,4 @@ struct Options {
     std::string param2;
 };
 
-// True when the word is empty or holds only the digits 0 to 9.
-bool is_number(const std::string& word);
-
 }  // namespace tarn

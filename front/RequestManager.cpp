@@ -4,9 +4,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "front/ArgumentChecks.h"
 #include "front/ArgumentClassifier.h"
 #include "front/ArgumentWords.h"
-#include "service/TarnLog.h"
+#include "front/TarnLog.h"
 
 namespace tarn {
 namespace {
@@ -104,10 +105,6 @@ int RequestManager::prepare_request(int argc, char** argv, std::shared_ptr<Reque
     *request = handler.with_options != nullptr ? (this->*handler.with_options)(std::move(opts))
                                                : (this->*handler.without_options)();
     return 0;
-}
-
-bool is_number(const std::string& word) {
-    return word.find_first_not_of("0123456789") == std::string::npos;
 }
 
 namespace {

@@ -3,20 +3,17 @@
 #include <cstdio>
 #include <cstring>
 
-#include "front/ArgumentClassifier.h"
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
 std::shared_ptr<Request> RequestManager::proc_set_comp(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_set_comp\n", "proc_set_comp");
-    if (opts->subsystems.empty()) {
-        report_missing_argument();
-        end_process(0);
-    }
+    const std::string& subsys = require_subsystem(*opts);
     CompressionRequest::CompressionCmdType cmd_type;
     if (strcmp(opts->cmd.c_str(), "none") == 0) {
         cmd_type = CompressionRequest::CMD_SET_NONE;
@@ -26,16 +23,12 @@ std::shared_ptr<Request> RequestManager::proc_set_comp(std::shared_ptr<Options> 
         report_missing_argument();
         return nullptr;
     }
-    return std::make_shared<CompressionRequest>(opts->subsystems.front(), cmd_type);
+    return std::make_shared<CompressionRequest>(subsys, cmd_type);
 }
 
 std::shared_ptr<Request> RequestManager::proc_get_comp_state(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_get_comp_state\n", "proc_get_comp_state");
-    if (opts->subsystems.empty()) {
-        report_missing_argument();
-        end_process(0);
-    }
-    return std::make_shared<CompressionRequest>(opts->subsystems.front(),
+    return std::make_shared<CompressionRequest>(require_subsystem(*opts),
                                                 CompressionRequest::CMD_QUERY);
 }
 

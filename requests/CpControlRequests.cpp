@@ -3,11 +3,11 @@
 #include <cstdio>
 #include <cstring>
 
-#include "front/ArgumentClassifier.h"
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -21,36 +21,29 @@ int32_t reset_state_of(const std::string& word) {
     return -1;
 }
 
-// The request for the first subsystem word; none, after the complaint, when no word was given.
-template <typename ProcessorRequest>
-std::shared_ptr<Request> for_first_subsystem(const Options& opts) {
-    if (opts.subsystems.empty()) {
-        report_missing_argument();
-        return nullptr;
-    }
-    return std::make_shared<ProcessorRequest>(opts.subsystems.front());
-}
-
 }  // namespace
 
 std::shared_ptr<Request> RequestManager::proc_set_cp_reset(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_set_cp_reset.\n", "proc_set_cp_reset");
     const int32_t state = reset_state_of(opts->cmd);
-    if (state < 0 || opts->subsystems.empty()) {
+    if (state < 0) {
         report_missing_argument();
         return nullptr;
     }
+    if (!has_subsystem(*opts)) return nullptr;
     return std::make_shared<SetCpResetRequest>(opts->subsystems.front(), state);
 }
 
 std::shared_ptr<Request> RequestManager::proc_get_cp_reset(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_get_cp_reset.\n", "proc_get_cp_reset");
-    return for_first_subsystem<GetCpResetRequest>(*opts);
+    if (!has_subsystem(*opts)) return nullptr;
+    return std::make_shared<GetCpResetRequest>(opts->subsystems.front());
 }
 
 std::shared_ptr<Request> RequestManager::proc_get_cp_run_state(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_get_cp_run_state\n", "proc_get_cp_run_state");
-    return for_first_subsystem<GetCpRunStateRequest>(*opts);
+    if (!has_subsystem(*opts)) return nullptr;
+    return std::make_shared<GetCpRunStateRequest>(opts->subsystems.front());
 }
 
 std::shared_ptr<Request> RequestManager::proc_set_md(std::shared_ptr<Options> opts) {

@@ -3,36 +3,22 @@
 #include <cstdio>
 #include <cstring>
 
-#include "front/ArgumentClassifier.h"
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
-namespace {
-
-// Both commands take exactly one subsystem word; anything else ends the process, with status 0.
-const std::string& the_one_subsystem(const Options& opts) {
-    if (opts.subsystems.size() != 1) {
-        fprintf(stderr, "Error argument.\n");
-        RequestManager::usage();
-        end_process(0);
-    }
-    return opts.subsystems.front();
-}
-
-}  // namespace
-
 std::shared_ptr<Request> RequestManager::proc_get_io_limit(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_get_io_limit\n", "proc_get_io_limit");
-    return std::make_shared<GetIoLimit>(the_one_subsystem(*opts));
+    return std::make_shared<GetIoLimit>(require_one_subsystem(*opts));
 }
 
 std::shared_ptr<Request> RequestManager::proc_set_io_limit(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_set_io_limit\n", "proc_set_io_limit");
-    const std::string& subsys = the_one_subsystem(*opts);
+    const std::string& subsys = require_one_subsystem(*opts);
 
     static const struct {
         const char* word;

@@ -4,9 +4,10 @@
 #include <cstring>
 #include <utility>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
 #include "requests/Report.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -27,12 +28,7 @@ std::shared_ptr<Request> RequestManager::proc_flush() {
 
 std::shared_ptr<Request> RequestManager::proc_crash(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_crash\n", "proc_crash");
-    if (opts->subsystems.empty()) {
-        fprintf(stderr, "Missing argument.\n");
-        usage();
-        end_process(0);
-    }
-    return std::make_shared<CrashRequest>(opts->subsystems.front());
+    return std::make_shared<CrashRequest>(require_subsystem(*opts));
 }
 
 ClearRequest::ClearRequest(bool skipboot) : skipboot(skipboot) {}

@@ -6,9 +6,10 @@
 #include <cstring>
 #include <utility>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
 #include "requests/Report.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -29,9 +30,7 @@ std::shared_ptr<Request> RequestManager::proc_set_log_pscfg(std::shared_ptr<Opti
     const char* word = opts->cmd.c_str();
     if (strcmp(word, "debug") == 0) return std::make_shared<SetLogPsCfg>(SetLogPsCfg::PS_CFG_DEBUG);
     if (strcmp(word, "user") == 0) return std::make_shared<SetLogPsCfg>(SetLogPsCfg::PS_CFG_USER);
-    fprintf(stderr, "Error argument.\n");
-    usage();
-    end_process(0);
+    end_error_argument();
 }
 
 namespace {

@@ -3,12 +3,12 @@
 #include <cstdio>
 #include <string>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "requests/StorageArguments.h"
 #include "requests/StorageReport.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -33,7 +33,7 @@ std::shared_ptr<Request> RequestManager::proc_overwrite(std::shared_ptr<Options>
     const std::string& subsys = require_subsystem(*opts);
     bool on = false;
     if (!switch_of(opts->cmd, on)) {
-        refuse_arguments();
+        report_missing_argument();
         return nullptr;
     }
     return std::make_shared<OverwriteRequest>(
@@ -50,7 +50,7 @@ std::shared_ptr<Request> RequestManager::proc_set_file_nodel(std::shared_ptr<Opt
     const std::string& subsys = require_one_subsystem(*opts);
     bool nodel = false;
     if (!switch_of(opts->cmd, nodel)) {
-        refuse_arguments();
+        report_missing_argument();
         return nullptr;
     }
     return std::make_shared<SetFileNodelRequest>(subsys, nodel);

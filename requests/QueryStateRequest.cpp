@@ -3,21 +3,17 @@
 #include <cstdio>
 #include <cstring>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
 std::shared_ptr<Request> RequestManager::proc_query_state(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_query_state\n", "proc_query_state");
-    if (opts->subsystems.empty()) {
-        fprintf(stderr, "Missing argument.\n");
-        usage();
-        end_process(0);
-    }
-    return std::make_shared<QueryStateRequest>(opts->subsystems.front());
+    return std::make_shared<QueryStateRequest>(require_subsystem(*opts));
 }
 
 QueryStateRequest::QueryStateRequest(const std::string& subsys) : subsys_(subsys) {}

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "service/TarnLog.h"
+#include "front/TarnLog.h"
 
 namespace tarn {
 

@@ -3,21 +3,17 @@
 #include <cstdio>
 #include <initializer_list>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
 std::shared_ptr<Request> RequestManager::proc_set_log(std::shared_ptr<Options> opts) {
     TARN_LOG("%s: proc_set_log\n", "proc_set_log");
-    if (opts->subsystems.size() != 1) {
-        fprintf(stderr, "Error argument.\n");
-        usage();
-        end_process(0);
-    }
-    return std::make_shared<SetLogDestRequest>(opts->subsystems.front(), opts->logdest);
+    return std::make_shared<SetLogDestRequest>(require_one_subsystem(*opts), opts->logdest);
 }
 
 SetLogDestRequest::SetLogDestRequest(const std::string& subsys, const std::string& logdest)

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
 #include "requests/Report.h"
-#include "requests/StorageArguments.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -22,7 +22,7 @@ std::shared_ptr<Request> RequestManager::proc_set_preferred_storage(std::shared_
     if (word == "storage") return std::make_shared<SetPreferredStorage>(StorageMedia::STORAGE);
     if (word == "external") return std::make_shared<SetPreferredStorage>(StorageMedia::EXTERNAL);
     if (word == "data") return std::make_shared<SetPreferredStorage>(StorageMedia::DATA);
-    refuse_arguments();
+    report_missing_argument();
     return nullptr;
 }
 

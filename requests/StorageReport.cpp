@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
+#include "front/TarnLog.h"
 #include "requests/Report.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 

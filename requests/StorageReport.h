@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "service/RecordEdit.h"
+#include "requests/RecordEdit.h"
 
 namespace tarn {
 

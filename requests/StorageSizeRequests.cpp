@@ -3,12 +3,12 @@
 #include <cstdio>
 #include <string>
 
+#include "front/ArgumentChecks.h"
 #include "front/RequestManager.h"
+#include "front/TarnLog.h"
+#include "requests/RecordEdit.h"
 #include "requests/Report.h"
-#include "requests/StorageArguments.h"
 #include "requests/StorageReport.h"
-#include "service/RecordEdit.h"
-#include "service/TarnLog.h"
 
 namespace tarn {
 
@@ -34,7 +34,7 @@ std::shared_ptr<Request> RequestManager::proc_get_cp_max_size(std::shared_ptr<Op
     const std::string& subsys = require_subsystem(*opts);
     GetCpMaxSize::MediaType media;
     if (!media_of(opts->storage, media)) {
-        refuse_arguments();
+        report_missing_argument();
         return nullptr;
     }
     return std::make_shared<GetCpMaxSize>(subsys, media);
@@ -45,7 +45,7 @@ std::shared_ptr<Request> RequestManager::proc_set_cp_max_size(std::shared_ptr<Op
     const std::string& subsys = require_subsystem(*opts);
     SetCpMaxSize::MediaType media;
     if (!media_of(opts->storage, media)) {
-        refuse_arguments();
+        report_missing_argument();
         return nullptr;
     }
     // Cut to 32 bits; a missing size arrives as 0 and goes to the daemon as 0.

@@ -4,7 +4,9 @@
 
 #include <utility>
 
-#include "server/VexilServerExchange.h"
+#include "front/ArgumentChecks.h"
+#include "front/RequestManager.h"
+#include "front/TarnLog.h"
 
 namespace tarn {
 
@@ -15,6 +17,17 @@ namespace {
 constexpr const char* kServerSubsysWords[] = {" 5MODE", " WCN", " GNSS", " AG-DSP", " PM_SH", ""};
 
 }  // namespace
+
+std::shared_ptr<Request> RequestManager::proc_set_vexil_state(std::shared_ptr<Options> opts) {
+    TARN_LOG("%s: proc_set_vexil_state.\n", "proc_set_vexil_state");
+    // The front end lets this command through only with one known subsystem word.
+    std::string subsys = opts->subsystems.empty() ? std::string() : opts->subsystems.front();
+    if (opts->cmd != "on" && opts->cmd != "off") {
+        report_missing_argument();
+        return nullptr;
+    }
+    return std::make_shared<VexilServerOnOffRequest>(std::move(subsys), opts->cmd == "on");
+}
 
 VexilServerOnOffRequest::VexilServerOnOffRequest(std::string subsys, bool on)
     : VexilserverRequest(-1), subsys_(std::move(subsys)), on_(on) {}
@@ -46,7 +59,7 @@ int VexilServerOnOffRequest::do_request() {
     char line[kResponseBufferSize];
     int len = snprintf(line, sizeof(line), "%s%s\n", on_ ? "ENABLE_LOG" : "DISABLE_LOG",
                        kServerSubsysWords[server_subsys_]);
-    if (connect_and_send(*this, line, static_cast<size_t>(len)) != 0) {
+    if (connect_and_send(line, static_cast<size_t>(len)) != 0) {
         return -1;
     }
     return wait_simple_response(kSetResponseTimeoutMs);

@@ -1,9 +1,21 @@
 #pragma once
 
+#include <stddef.h>
+
 #include "server/VexilserverRequest.h"
 #include "service/Request.h"
 
 namespace tarn {
+
+// A state word a query may answer with, and the text printed for it.
+struct StateWord {
+    const char* reply;
+    const char* printed;
+};
+
+// Waits for the answer to a state query, "OK <WORD>", and prints the printed text of the word
+// when it is one of the count accepted words.
+int parse_state_query_result(VexilserverRequest& conn, const StateWord* accepted, size_t count);
 
 // "getallvexilstate": asks whether co-processor log output is on, off or in event mode.
 class VexilServerQueryStateRequest : public Request, public VexilserverRequest {

@@ -7,8 +7,9 @@
 #include <string.h>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <utils/String8.h>
 
-#include "service/TarnLog.h"
+#include "front/TarnLog.h"
 
 namespace {
 
@@ -143,4 +144,56 @@ const char* VexilserverRequest::resp_code_to_string(ResponseErrorCode code) {
         default:
             return "Unknown error";
     }
+}
+
+int VexilserverRequest::wait_simple_response(int timeout) {
+    uint8_t buf[kResponseBufferSize] = {};
+    size_t len = 0;
+    const uint8_t* rest = nullptr;
+    if (receive_answer(buf, len, timeout) != 0 ||
+        judge_answer("wait_simple_response", buf, len, rest) != 0) {
+        return -1;
+    }
+    printf("set success\n");
+    return 0;
+}
+
+int VexilserverRequest::connect_and_send(const char* line, size_t len) {
+    if (prepare_conn() != 0) {
+        TARN_LOG_ERRNO("%s: fail to connect vexilserver", "do_request");
+        return -1;
+    }
+    if (send_req(line, len) != 0) {
+        report_error(SEND_ERROR);
+        return -1;
+    }
+    return 0;
+}
+
+int VexilserverRequest::receive_answer(uint8_t (&buf)[kResponseBufferSize], size_t& len,
+                                       int timeout) {
+    len = sizeof(buf);
+    if (wait_response(buf, len, timeout) != 0) {
+        report_error(RECV_ERROR);
+        return -1;
+    }
+    return 0;
+}
+
+int VexilserverRequest::judge_answer(const char* func, const uint8_t* data, size_t len,
+                                     const uint8_t*& rest) {
+    ResponseErrorCode code = RESP_SUCCESS;
+    if (parse_result(data, len, code, rest) != 0) {
+        android::String8 printable(reinterpret_cast<const char*>(data), len);
+        fprintf(stderr, "Invalid response: %s\n", printable.string());
+        TARN_LOG_ERRNO("%s: invalid response: %s", func, printable.string());
+        return -1;
+    }
+    if (code != RESP_SUCCESS) {
+        const char* text = resp_code_to_string(code);
+        fprintf(stderr, "Error: %d(%s)\n", code, text);
+        TARN_LOG_ERRNO("%s: error: %d(%s)", func, code, text);
+        return -1;
+    }
+    return 0;
 }

@@ -54,9 +54,17 @@ class VexilserverRequest {
     // Splits "OK..." or "ERROR <n>..." (n up to RESP_MAX) into its code and the bytes after it.
     int parse_result(const uint8_t* data, size_t len, ResponseErrorCode& code, const uint8_t*& rest);
     static const char* resp_code_to_string(ResponseErrorCode code);
-    // Waits for the answer to a set request and prints the outcome (judged with the query
-    // answers in VexilServerExchange.cpp).
+    // Waits for the answer to a set request and prints the outcome.
     int wait_simple_response(int timeout);
+
+    // One exchange, as the four commands make it; every failure is reported here.
+    // Connects and writes one request line.
+    int connect_and_send(const char* line, size_t len);
+    // Reads one answer into buf (len: its length on return); reports a missing one.
+    int receive_answer(uint8_t (&buf)[kResponseBufferSize], size_t& len, int timeout);
+    // Splits the answer into its code and the rest; reports an answer that is neither "OK" nor
+    // "ERROR <n>", and one that carries an error code. func names the judging function in the log.
+    int judge_answer(const char* func, const uint8_t* data, size_t len, const uint8_t*& rest);
 
   private:
     int fd_;

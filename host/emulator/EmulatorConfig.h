@@ -2,8 +2,6 @@
 // the injected faults and the behaviour of the command socket.
 #pragma once
 
-#include <string>
-
 #include "host/emulator/DeviceState.h"
 #include "host/emulator/Faults.h"
 #include "host/emulator/VexilServer.h"
@@ -11,25 +9,16 @@
 namespace tarnmodem {
 
 enum class ServicePublication {
-    kPresent,         // the log-control service under its instance name
-    kAbsent,          // nothing under the name
-    kWrongInterface,  // a service of another interface under the name
+    PRESENT,          // the log-control service under its instance name
+    ABSENT,           // nothing under the name
+    WRONG_INTERFACE,  // a service of another interface under the name
 };
 
 struct EmulatorConfig {
-    ServicePublication service = ServicePublication::kPresent;
+    ServicePublication service = ServicePublication::PRESENT;
     DeviceState device = default_device_state();
     FaultTable faults;
     VexilServerConfig vexilserver;
 };
-
-// Fills config from the JSON text of a state file, on top of the defaults. False with a message
-// naming the offending key when the text is not a valid state.
-bool parse_state(const std::string& text, EmulatorConfig& config, std::string& error);
-// The same for a state already parsed as JSON.
-bool parse_state_json(const Json& root, EmulatorConfig& config, std::string& error);
-
-// Reads and parses a state file; the message names the file.
-bool load_state_file(const std::string& path, EmulatorConfig& config, std::string& error);
 
 }  // namespace tarnmodem

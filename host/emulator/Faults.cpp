@@ -6,14 +6,14 @@ namespace tarnmodem {
 
 ndk::ScopedAStatus FaultStatus::make() const {
     switch (kind) {
-        case Kind::kOk:
+        case Kind::OK:
             break;
-        case Kind::kException:
+        case Kind::EXCEPTION:
             // A service-specific failure carries a code of its own; -1 is the usual one.
             if (code == EX_SERVICE_SPECIFIC)
                 return ndk::ScopedAStatus::fromServiceSpecificError(-1);
             return ndk::ScopedAStatus::fromExceptionCode(code);
-        case Kind::kStatusCode:
+        case Kind::STATUS_CODE:
             return ndk::ScopedAStatus::fromStatus(code);
     }
     return ndk::ScopedAStatus::ok();

@@ -12,8 +12,8 @@ namespace tarnmodem {
 
 // The status an operation answers with.
 struct FaultStatus {
-    enum class Kind { kOk, kException, kStatusCode };
-    Kind kind = Kind::kOk;
+    enum class Kind { OK, EXCEPTION, STATUS_CODE };
+    Kind kind = Kind::OK;
     int32_t code = 0;  // the exception code or the binder status code
 
     ndk::ScopedAStatus make() const;

@@ -54,8 +54,7 @@ std::optional<ndk::ScopedAStatus> LogControlService::arrive(const char* op, Json
     fault = state_.fault(op);
     if (!fault) return std::nullopt;
     if (fault->die) _exit(0);  // the client sees its call hang up; the daemon's other parts live on
-    if (fault->status && fault->status->kind != FaultStatus::Kind::kOk)
-        return fault->status->make();
+    if (fault->status && fault->status->kind != FaultStatus::Kind::OK) return fault->status->make();
     return std::nullopt;
 }
 

@@ -30,7 +30,7 @@ constexpr int kReadyFd = 3;
 
 bool ServiceProcess::start(ServicePublication publication, std::string& error) {
     publication_ = publication;
-    if (publication == ServicePublication::kAbsent) return true;
+    if (publication == ServicePublication::ABSENT) return true;
     int ready[2];
     if (pipe2(ready, O_CLOEXEC) != 0) {
         error = std::string("cannot start the service: ") + strerror(errno);
@@ -92,7 +92,7 @@ void ServiceProcess::serve(ServicePublication publication, int ready_fd) {
     if (!journal_path_.empty() && !journal.open(journal_path_)) _exit(1);
 
     ndk::SpAIBinder binder;
-    if (publication == ServicePublication::kPresent) {
+    if (publication == ServicePublication::PRESENT) {
         static std::shared_ptr<LogControlService> service =
             ndk::SharedRefBase::make<LogControlService>(state_, journal);
         binder = service->asBinder();

@@ -37,7 +37,7 @@ class ServiceProcess {
     int argc_;
     char** argv_;
     pid_t pid_ = -1;
-    ServicePublication publication_ = ServicePublication::kAbsent;
+    ServicePublication publication_ = ServicePublication::ABSENT;
 };
 
 }  // namespace tarnmodem

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "host/emulator/EmulatorConfig.h"
+#include "host/emulator/StateFile.h"
 #include "host/emulator/StateJson.h"
 
 namespace tarnmodem {

@@ -1,9 +1,10 @@
 // Reading the state file. The JSON library reports errors by exceptions; they stop here.
+#include "host/emulator/StateFile.h"
+
 #include <fstream>
 #include <functional>
 #include <iterator>
 
-#include "host/emulator/EmulatorConfig.h"
 #include "host/emulator/RecordFields.h"
 
 namespace tarnmodem {
@@ -53,14 +54,14 @@ FaultStatus read_fault_status(const Json& value, const std::string& path) {
         if (name == "ok") return status;
         std::optional<int32_t> code = exception_code(name);
         if (!code) throw StateError(path, "names no exception: " + name);
-        status.kind = FaultStatus::Kind::kException;
+        status.kind = FaultStatus::Kind::EXCEPTION;
         status.code = *code;
         return status;
     }
     if (!value.is_number_integer()) {
         throw StateError(path, "must be \"ok\", an exception name or a status code");
     }
-    status.kind = FaultStatus::Kind::kStatusCode;
+    status.kind = FaultStatus::Kind::STATUS_CODE;
     status.code = int32_from_json(value, path);
     return status;
 }
@@ -119,9 +120,9 @@ std::vector<ReplyPiece> read_pieces(const Json& value, const std::string& path) 
 ReplyOverride read_reply(const Json& reply, const std::string& path) {
     ReplyOverride out;
     if (reply.is_null()) {
-        out.kind = ReplyOverride::Kind::kSilent;
+        out.kind = ReplyOverride::Kind::SILENT;
     } else if (reply == "close") {
-        out.kind = ReplyOverride::Kind::kClose;
+        out.kind = ReplyOverride::Kind::CLOSE;
     } else if (reply.is_string()) {
         out.pieces.push_back({0, reply.get<std::string>()});
     } else if (reply.is_array()) {
@@ -152,11 +153,11 @@ void read_vexilserver(const Json& value, VexilServerConfig& config) {
 
 void read_service(const Json& value, ServicePublication& service) {
     if (value == "present") {
-        service = ServicePublication::kPresent;
+        service = ServicePublication::PRESENT;
     } else if (value == "absent") {
-        service = ServicePublication::kAbsent;
+        service = ServicePublication::ABSENT;
     } else if (value == "wrong-interface") {
-        service = ServicePublication::kWrongInterface;
+        service = ServicePublication::WRONG_INTERFACE;
     } else {
         throw StateError("service", "must be \"present\", \"absent\" or \"wrong-interface\"");
     }

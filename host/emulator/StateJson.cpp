@@ -15,11 +15,11 @@ Json cp_map_to_json(const std::map<int32_t, int32_t>& values) {
 
 Json status_to_json(const FaultStatus& status) {
     switch (status.kind) {
-        case FaultStatus::Kind::kOk:
+        case FaultStatus::Kind::OK:
             break;
-        case FaultStatus::Kind::kException:
+        case FaultStatus::Kind::EXCEPTION:
             return exception_name(status.code);
-        case FaultStatus::Kind::kStatusCode:
+        case FaultStatus::Kind::STATUS_CODE:
             return status.code;
     }
     return "ok";

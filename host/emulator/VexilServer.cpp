@@ -124,17 +124,17 @@ bool VexilServer::respond(int client, const std::string& line, bool& silent) {
         return true;
     }
     switch (reply->kind) {
-        case ReplyOverride::Kind::kBytes:
+        case ReplyOverride::Kind::BYTES:
             for (const ReplyPiece& piece : reply->pieces) {
                 std::this_thread::sleep_for(std::chrono::milliseconds(piece.delay_ms));
                 send_all(client, piece.bytes);
             }
             return true;
-        case ReplyOverride::Kind::kSilent:
+        case ReplyOverride::Kind::SILENT:
             silent = true;
             set_receive_timeout(client, 0);  // wait for the client to give up, however long
             return true;
-        case ReplyOverride::Kind::kClose:
+        case ReplyOverride::Kind::CLOSE:
             return false;
     }
     return false;

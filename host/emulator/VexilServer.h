@@ -26,9 +26,9 @@ struct ReplyPiece {
 
 // What the state file may put in place of the normal answer to one request line.
 struct ReplyOverride {
-    enum class Kind { kBytes, kSilent, kClose };
-    Kind kind = Kind::kBytes;
-    std::vector<ReplyPiece> pieces;  // kBytes: sent in this order, instead of the normal answer
+    enum class Kind { BYTES, SILENT, CLOSE };
+    Kind kind = Kind::BYTES;
+    std::vector<ReplyPiece> pieces;  // BYTES: sent in this order, instead of the normal answer
 };
 
 using ReplyTable = std::map<std::string, ReplyOverride>;  // keyed by the request line with its "\n"

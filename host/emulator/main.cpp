@@ -1,7 +1,7 @@
 // tarnmodem: host stand-in for the device's log daemon. Serves the log-control service (in a
 // process of its own), the vexilserver command socket and the log sink until SIGTERM or SIGINT;
 // SIGHUP reads the state file again.
-#include <host/log_sink.h>
+#include <host/log_datagram.h>
 #include <pthread.h>
 #include <signal.h>
 #include <sys/prctl.h>
@@ -18,6 +18,7 @@
 #include "host/emulator/LogSink.h"
 #include "host/emulator/ServiceProcess.h"
 #include "host/emulator/SharedState.h"
+#include "host/emulator/StateFile.h"
 #include "host/emulator/VexilProtocol.h"
 #include "host/emulator/VexilServer.h"
 

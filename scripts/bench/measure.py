@@ -88,8 +88,8 @@ def commands(build):
     return {
         "true": ["/bin/true"],
         "argument_error": [vexilctl, "foo"],
-        "client": [os.path.join(build, "bench", "vexil_bench_client")],
-        "client_log_line": [os.path.join(build, "bench", "vexil_bench_client"), "--log-line"],
+        "client": [os.path.join(build, "scripts", "bench", "vexil_bench_client")],
+        "client_log_line": [os.path.join(build, "scripts", "bench", "vexil_bench_client"), "--log-line"],
         "getallvexilstate": [vexilctl, "getallvexilstate"],
         "state_modem": [vexilctl, "state", "modem"],
     }
@@ -221,7 +221,7 @@ def main():
         all_ok = all_ok and ok
         rows.append((label, value, timing, budget, verdict(ok)))
 
-    emulator_path = args.emulator or os.path.join(args.build, "emulator", "tarnmodem")
+    emulator_path = args.emulator or os.path.join(args.build, "host", "emulator", "tarnmodem")
     emulator = Emulator(emulator_path)
     try:
         check_outputs(cmds)

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "server/VexilServerExchange.h"
+#include "server/VexilServerQueryStateRequests.h"
 #include "server/VexilserverRequest.h"
 
 namespace {

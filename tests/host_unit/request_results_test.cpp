@@ -11,10 +11,10 @@
 #include <sstream>
 #include <string>
 
+#include "front/RequestManager.h"
 #include "host/emulator/EmulatorConfig.h"
 #include "host/emulator/Faults.h"
 #include "host/emulator/LogControlService.h"
-#include "front/RequestManager.h"
 #include "tests/unit/front_test_support.h"
 
 namespace tarn {
@@ -86,7 +86,7 @@ bool check_every_column() {
     ABinderProcess_startThreadPool();
     FaultTable failing, refused;
     for (const auto& [name, operation] : tarnmodem::service_operations()) {
-        failing[name].status = FaultStatus{FaultStatus::Kind::kException, EX_TRANSACTION_FAILED};
+        failing[name].status = FaultStatus{FaultStatus::Kind::EXCEPTION, EX_TRANSACTION_FAILED};
         if (operation.returns_int) refused[name].result = -1;
     }
     const std::pair<FaultTable, int Rows::*> columns[] = {

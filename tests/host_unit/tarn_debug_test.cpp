@@ -3,7 +3,7 @@
 // close that fails. The log lines are read from the host log sink.
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <host/log_sink.h>
+#include <host/log_datagram.h>
 #include <poll.h>
 #include <stdlib.h>
 #include <sys/socket.h>
@@ -16,9 +16,9 @@
 #include <string>
 #include <thread>
 
+#include "debug/TarnDebug.h"
 #include "host/emulator/AbstractSocket.h"
 #include "host/emulator/LogSink.h"
-#include "debug/TarnDebug.h"
 
 namespace tarn {
 namespace {

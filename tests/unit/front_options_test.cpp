@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,12 @@ struct ClassifyCase {
     std::string options;  // as describe() writes them; only checked when accepted
     Complaint complaint;
 };
+
+// How gtest shows a case in its output: the command line, not a byte dump.
+void PrintTo(const ClassifyCase& c, std::ostream* out) {
+    *out << "vexilctl";
+    for (const std::string& word : c.words) *out << " '" << word << "'";
+}
 
 const ClassifyCase kClassifyCases[] = {
     // A command word alone reaches its handler, whatever the command.

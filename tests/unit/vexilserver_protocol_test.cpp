@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "server/VexilServerExchange.h"
+#include "server/VexilServerQueryStateRequests.h"
 #include "server/VexilserverRequest.h"
 
 namespace {

@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     host->state->replace(tarnmodem::default_device_state(), {});
     host::binder::Frame request;
     for (int i = 0; i < kMaxRequests; ++i) {
-        if (host::binder::take_frame(data, size, &request) != host::binder::FrameResult::kOk) {
+        if (host::binder::take_frame(data, size, &request) != host::binder::FrameResult::OK) {
             break;
         }
         AParcel in;

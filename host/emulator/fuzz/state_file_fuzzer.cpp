@@ -7,6 +7,7 @@
 #include <string>
 
 #include "host/emulator/EmulatorConfig.h"
+#include "host/emulator/StateFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     tarnmodem::EmulatorConfig config;

@@ -6,6 +6,7 @@
 
 #include "host/emulator/EmulatorConfig.h"
 #include "host/emulator/SharedState.h"
+#include "host/emulator/StateFile.h"
 #include "host/emulator/StateJson.h"
 
 namespace tarnmodem {

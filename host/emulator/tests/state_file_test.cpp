@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/emulator/EmulatorConfig.h"
+#include "host/emulator/StateFile.h"
 
 namespace tarnmodem {
 namespace {

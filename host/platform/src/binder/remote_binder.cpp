@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "host/platform/src/binder/binder_impl.h"
-#include "host/platform/src/local_socket.h"
 #include "host/platform/src/binder/wire.h"
+#include "host/platform/src/local_socket.h"
 
 namespace host::binder {
 
@@ -47,7 +47,7 @@ binder_status_t RemoteBinder::transact(transaction_code_t code, const AParcel& i
             hung_up = true;
         } else if ((flags & FLAG_ONEWAY) == 0) {
             Frame reply;
-            if (read_frame(fd_, &reply) != FrameResult::kOk) {
+            if (read_frame(fd_, &reply) != FrameResult::OK) {
                 hung_up = true;
             } else {
                 status = static_cast<binder_status_t>(reply.word1);
@@ -77,7 +77,7 @@ AIBinder* connect_remote(const char* instance) {
     Frame reply;
     std::string descriptor;
     bool answered = send_frame(fd, kInterfaceTransaction, 0, {}) &&
-                    read_frame(fd, &reply) == FrameResult::kOk && reply.word1 == STATUS_OK;
+                    read_frame(fd, &reply) == FrameResult::OK && reply.word1 == STATUS_OK;
     timeval no_timeout{0, 0};
     setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &no_timeout, sizeof(no_timeout));
     if (answered) {

@@ -13,8 +13,8 @@
 #include <memory>
 
 #include "host/platform/src/binder/binder_impl.h"
-#include "host/platform/src/local_socket.h"
 #include "host/platform/src/binder/wire.h"
+#include "host/platform/src/local_socket.h"
 
 namespace host::binder {
 
@@ -52,7 +52,7 @@ bool spawn_detached(std::unique_ptr<Fn> fn) {
 void serve_connection(int fd, AIBinder* binder) {
     for (;;) {
         Frame request;
-        if (read_frame(fd, &request) != FrameResult::kOk) break;
+        if (read_frame(fd, &request) != FrameResult::OK) break;
         AParcel in;
         in.data = std::move(request.payload);
         AParcel out;

@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include "host/platform/src/binder/binder_impl.h"
-#include "host/platform/src/local_socket.h"
 #include "host/platform/src/binder/service_host.h"
+#include "host/platform/src/local_socket.h"
 
 binder_exception_t AServiceManager_addService(AIBinder* binder, const char* instance) {
     return host::binder::ServiceHost::get().publish(binder, instance);

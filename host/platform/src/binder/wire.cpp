@@ -60,28 +60,28 @@ bool send_frame(int fd, uint32_t word1, uint32_t word2, const std::vector<uint8_
 
 FrameResult read_frame(int fd, Frame* frame) {
     uint8_t head[4 + kFrameWordsBytes];
-    if (!read_all(fd, head, 4)) return FrameResult::kClosed;
+    if (!read_all(fd, head, 4)) return FrameResult::CLOSED;
     uint32_t length = get_word(head);
-    if (!length_ok(length)) return FrameResult::kMalformed;
-    if (!read_all(fd, head + 4, kFrameWordsBytes)) return FrameResult::kClosed;
+    if (!length_ok(length)) return FrameResult::MALFORMED;
+    if (!read_all(fd, head + 4, kFrameWordsBytes)) return FrameResult::CLOSED;
     frame->word1 = get_word(head + 4);
     frame->word2 = get_word(head + 8);
     frame->payload.resize(length - kFrameWordsBytes);
-    if (!read_all(fd, frame->payload.data(), frame->payload.size())) return FrameResult::kClosed;
-    return FrameResult::kOk;
+    if (!read_all(fd, frame->payload.data(), frame->payload.size())) return FrameResult::CLOSED;
+    return FrameResult::OK;
 }
 
 FrameResult take_frame(const uint8_t*& data, size_t& size, Frame* frame) {
-    if (size < 4) return FrameResult::kClosed;
+    if (size < 4) return FrameResult::CLOSED;
     uint32_t length = get_word(data);
-    if (!length_ok(length)) return FrameResult::kMalformed;
-    if (size - 4 < length) return FrameResult::kClosed;
+    if (!length_ok(length)) return FrameResult::MALFORMED;
+    if (size - 4 < length) return FrameResult::CLOSED;
     frame->word1 = get_word(data + 4);
     frame->word2 = get_word(data + 8);
     frame->payload.assign(data + 4 + kFrameWordsBytes, data + 4 + length);
     data += 4 + length;
     size -= 4 + length;
-    return FrameResult::kOk;
+    return FrameResult::OK;
 }
 
 }  // namespace host::binder

@@ -28,9 +28,9 @@ struct Frame {
 };
 
 enum class FrameResult {
-    kOk,
-    kClosed,     // end of stream or a transport error
-    kMalformed,  // a length outside the limits
+    OK,
+    CLOSED,     // end of stream or a transport error
+    MALFORMED,  // a length outside the limits
 };
 
 // Sends one frame; false when the peer is gone. Never raises SIGPIPE.
@@ -39,7 +39,7 @@ bool send_frame(int fd, uint32_t word1, uint32_t word2, const std::vector<uint8_
 FrameResult read_frame(int fd, Frame* frame);
 
 // Takes one frame off the front of a byte stream held in memory, as read_frame reads it from a
-// socket: kClosed when the bytes end inside the frame. data and size move past the frame.
+// socket: CLOSED when the bytes end inside the frame. data and size move past the frame.
 FrameResult take_frame(const uint8_t*& data, size_t& size, Frame* frame);
 
 }  // namespace host::binder

@@ -2,7 +2,7 @@
 // ever written to stdout or stderr; lines are dropped silently when nobody listens.
 #include <android/log.h>
 #include <errno.h>
-#include <host/log_sink.h>
+#include <host/log_datagram.h>
 #include <stdarg.h>
 #include <stdio.h>
 #include <string.h>
