@@ -36,7 +36,7 @@ bash scripts/device_build/deps.sh
 
 steps=("$@")
 if [ ${#steps[@]} -eq 0 ]; then
-    steps=(soong aidl_compile frozen_api clang_compile link sepolicy)
+    steps=(soong aidl_compile frozen_api clang_compile link sepolicy runtime device_tests)
 fi
 
 status=0

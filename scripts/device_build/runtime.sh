@@ -2,7 +2,8 @@
 # Android 13's runtime built as Soong builds it (after the soong step, from its runtime.json): the
 # dynamic linker, bionic's libc, libm and libdl, liblog and libvndksupport, libbinder_ndk (the
 # host rig's binder transport), and the VNDK's libc++, libcutils, libutils and libbase, with
-# everything they link; genrules run in Soong's own sbox, built from the tree's build/soong.
+# everything they link; genrules run in Soong's own sbox, built from the tree's build/soong. Then
+# the device image (build/device/image, image.py) with these and the project's modules.
 set -euo pipefail
 [ -e "$SCRATCH/runtime.json" ] || { echo "runtime: run the soong step first" >&2; exit 1; }
 bash "$ROOT/scripts/device_build/builtins.sh"
@@ -17,4 +18,5 @@ if ! python2 -c '' 2>/dev/null; then
     [ -n "$py2" ] || { echo "runtime: no Python 2 (bionic's fs_config_generator.py needs one)" >&2; exit 1; }
     export PYENV_VERSION="$(pyenv version-name):$py2"
 fi
-exec python3 "$ROOT/scripts/device_build/soong_ninja.py" runtime
+python3 "$ROOT/scripts/device_build/soong_ninja.py" runtime
+python3 "$ROOT/scripts/device_build/image.py"

@@ -16,6 +16,7 @@ import (
 	"android/soong/android"
 	"github.com/google/blueprint"
 	"github.com/google/blueprint/parser"
+	"github.com/google/blueprint/proptools"
 )
 
 // The runtime's Android.bp files, read whole: every module of a type that builds device code.
@@ -114,12 +115,13 @@ cc_library {
 		versions: ["29", "30"],
 	},
 }`,
-	// The lists of LLNDK, VNDK-SP and VNDK-core libraries that the device's linker
+	// The lists of LLNDK, VNDK-SP, VNDK-core and VNDK-private libraries that the device's linker
 	// configuration is written from (build/make/target/product/gsi/Android.bp).
 	"build/make/target/product/gsi/Android.bp": `
 llndk_libraries_txt { name: "llndk.libraries.txt" }
 vndksp_libraries_txt { name: "vndksp.libraries.txt" }
-vndkcore_libraries_txt { name: "vndkcore.libraries.txt" }`,
+vndkcore_libraries_txt { name: "vndkcore.libraries.txt" }
+vndkprivate_libraries_txt { name: "vndkprivate.libraries.txt" }`,
 	vexilctlDir + "/host/platform/Android.bp": `
 filegroup {
 	name: "vexilctl_host_binder_ndk",
@@ -198,6 +200,11 @@ func runtimePlatform(t *testing.T, aosp string) android.FixturePreparer {
 	}
 	return android.GroupFixturePreparers(
 		files.AddToFixture(),
+		// A full-Treble device, as every device launched since Android 8 is (bionic's popen then
+		// runs /vendor/bin/sh for a program under /vendor).
+		android.FixtureModifyProductVariables(func(v android.FixtureProductVariables) {
+			v.Treble_linker_namespaces = proptools.BoolPtr(true)
+		}),
 		// Modules of the whole files that the runtime never builds may name what the subset
 		// lacks; a module the runtime builds may not (runtimeClosure fails on it).
 		android.PrepareForTestWithAllowMissingDependencies,
@@ -205,20 +212,25 @@ func runtimePlatform(t *testing.T, aosp string) android.FixturePreparer {
 }
 
 // The runtime a vendor binary loads: the system side (in its own namespace on a device) and the
-// VNDK libraries, built as their vendor variants.
+// VNDK libraries, built as their vendor variants; and the project's vendor modules.
 var (
 	runtimeSystemModules = []string{"linker", "ld-android", "libc", "libm", "libdl",
-		"libdl_android", "liblog", "libvndksupport", "libbinder_ndk"}
-	runtimeVndkModules = []string{"libc++", "libcutils", "libutils", "libbase"}
+		"libdl_android", "liblog", "libvndksupport", "libbinder_ndk", "libc++"}
+	runtimeVndkModules   = []string{"libc++", "libcutils", "libutils", "libbase"}
+	runtimeVendorModules = []string{"vexilctl", "vexilctl_unit_tests",
+		"vendor.kest.hardware.vexil_svc-V1-ndk"}
 )
 
-// runtimeModule is one library or binary of the runtime: the file its link writes (unstripped)
-// and where Soong installs it.
+// runtimeModule is one library or binary of the image: the file its link writes (unstripped),
+// the file its strip step writes, where Soong installs it, and its test data (installed path
+// relative to the module's directory, to source path).
 type runtimeModule struct {
 	Module   string
 	Variant  string
 	Linked   string
+	Stripped string
 	Installs []string
+	Data     map[string]string `json:",omitempty"`
 }
 
 func runtimeVariant(t *testing.T, ctx *android.TestContext, name, prefix string) string {
@@ -313,6 +325,18 @@ func runtimeOnlyActions(t *testing.T, m android.TestingModule, name, variant str
 	return actions
 }
 
+var testDataSeen = map[blueprint.Module][]string{}
+
+// testData is a module's LOCAL_TEST_DATA ("source prefix:path relative to the module"), which
+// Soong's cc modules give out once per module.
+func testData(t *testing.T, ctx *android.TestContext, m blueprint.Module) []string {
+	if _, done := testDataSeen[m]; !done {
+		entries := android.AndroidMkEntriesForTest(t, ctx, m.(android.Module))
+		testDataSeen[m] = entries[0].EntryMap["LOCAL_TEST_DATA"]
+	}
+	return testDataSeen[m]
+}
+
 // writeRuntime writes the runtime's build actions and modules to VEXILCTL_RUNTIME.
 func writeRuntime(t *testing.T, ctx *android.TestContext) {
 	out := os.Getenv("VEXILCTL_RUNTIME")
@@ -322,28 +346,37 @@ func writeRuntime(t *testing.T, ctx *android.TestContext) {
 	var roots []blueprint.Module
 	var modules []runtimeModule
 	for family, names := range map[string][]string{"android": runtimeSystemModules,
-		"android_vendor.33": runtimeVndkModules} {
+		"android_vendor.33": append(runtimeVndkModules, runtimeVendorModules...)} {
 		for _, name := range names {
 			variant := runtimeVariant(t, ctx, name, family)
 			m := ctx.ModuleForTests(name, variant)
-			roots = append(roots, m.Module())
+			if !android.InList(name, runtimeVendorModules) {
+				roots = append(roots, m.Module())
+			}
 			module := runtimeModule{Module: name, Variant: variant}
 			// What the module's strip step reads: the file as linked (and, for the linker, with
 			// its symbols prefixed).
 			for _, action := range moduleActions(m, name, variant) {
 				if action.Rule == "strip" {
-					module.Linked = action.Inputs[0]
+					module.Linked, module.Stripped = action.Inputs[0], action.Outputs[0]
 				}
 			}
 			for _, file := range m.Module().FilesToInstall() {
 				module.Installs = append(module.Installs, android.NormalizePathForTesting(file))
+			}
+			for _, d := range testData(t, ctx, m.Module()) {
+				parts := strings.Split(d, ":") // source prefix, path relative to the module
+				if module.Data == nil {
+					module.Data = map[string]string{}
+				}
+				module.Data[parts[1]] = filepath.Join(parts[0], parts[1])
 			}
 			modules = append(modules, module)
 		}
 	}
 	sort.Slice(modules, func(i, j int) bool { return modules[i].Module < modules[j].Module })
 	lists := map[string][]string{}
-	for _, name := range []string{"llndk", "vndksp", "vndkcore"} {
+	for _, name := range []string{"llndk", "vndksp", "vndkcore", "vndkprivate"} {
 		s := ctx.SingletonForTests(name + "_libraries_txt")
 		content := android.ContentFromFileRuleForTests(t, s.Output(name+".libraries.33.txt"))
 		lists[name] = strings.Fields(content)

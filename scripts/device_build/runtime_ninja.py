@@ -24,8 +24,7 @@ rule prefixSymbols
   description = $module: prefix the symbols of $out
 """
 RULE_NAMES = ("sbox", "arWithLibs", "prefixSymbols", "versionBionicHeaders")
-# Where Soong's actions run sbox from (built from the tree's build/soong by the runtime step).
-SBOX = "out/soong/host/linux-x86/bin/sbox"
+PROJECT_OUT = "out/soong/.intermediates/vendor/"
 
 
 def load(scratch: Path):
@@ -61,5 +60,7 @@ def headers(runtime: dict) -> list:
 
 
 def targets(runtime: dict) -> list:
-    """What the runtime step builds: each module's file as linked."""
-    return [m["Linked"] for m in runtime["Modules"]]
+    """What the runtime step builds: each file the image installs (the platform's as linked, the
+    project's stripped; see image.py)."""
+    return [m["Stripped"] if m["Stripped"].startswith(PROJECT_OUT) else m["Linked"]
+            for m in runtime["Modules"]]

@@ -397,7 +397,6 @@ func TestVexilctlVendorTree(t *testing.T) {
 		}
 	}
 
-	debugRuntime(t, ctx)
 	writeRuntime(t, ctx)
 	if out := os.Getenv("VEXILCTL_ACTIONS"); out != "" {
 		data, _ := json.MarshalIndent(struct {
@@ -429,8 +428,7 @@ func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingMo
 		golden = filepath.Join("/", golden)
 	}
 	installDir := "/" + filepath.Dir(strings.TrimPrefix(installs[0], "target/product/test_device/"))
-	entries := android.AndroidMkEntriesForTest(t, ctx, m.Module())
-	data := entries[0].EntryMap["LOCAL_TEST_DATA"]
+	data := testData(t, ctx, m.Module())
 	if len(data) == 0 {
 		t.Errorf("vexilctl_unit_tests installs no golden files")
 	}

@@ -37,7 +37,7 @@ class Sandbox:
     files: Dict[str, list] = field(default_factory=dict)  # path to [content matcher, mode]
 
 
-def parse_directive(case, key: str, value: str, golden_dir, seed: str):
+def parse_directive(case, key: str, value: str, goldens, seed: str):
     """Adds one sandbox directive to the case."""
     box = case.sandbox = case.sandbox or Sandbox()
     forms = {"sandbox": r"", "tool": r"[\w.-]+ .*\S.*", "dir": r"/data/\S+( 0?[0-7]{3})?",
@@ -53,7 +53,7 @@ def parse_directive(case, key: str, value: str, golden_dir, seed: str):
     elif key in ("daemon", "repeat"):
         setattr(box, key, value if key == "daemon" else int(value))
     elif key == "file":
-        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, golden_dir, seed)
+        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, goldens, seed)
     elif key == "mode":
         box.files.setdefault(first, [None, None])[1] = int(rest, 8)
 
