@@ -37,8 +37,8 @@ int bind_abstract_socket(const std::string& name, int type) {
         return -1;
     }
     memcpy(addr.sun_path + 1, name.data(), name.size());
-    return bind_local(addr, static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size()),
-                      type);
+    return bind_local(
+        addr, static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size()), type);
 }
 
 int bind_socket_at(const std::string& path, int type) {

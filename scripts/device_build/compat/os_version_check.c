@@ -17,8 +17,8 @@ static void read_versions(void) {
     char value[PROP_VALUE_MAX];
     sdk_version = __system_property_get("ro.build.version.sdk", value) > 0 ? atoi(value)
                                                                            : __ANDROID_API_FUTURE__;
-    pre_release = __system_property_get("ro.build.version.codename", value) <= 0 ||
-                  strcmp(value, "REL") != 0;
+    pre_release =
+        __system_property_get("ro.build.version.codename", value) <= 0 || strcmp(value, "REL") != 0;
 }
 
 int32_t __isOSVersionAtLeast(int32_t major, int32_t minor, int32_t subminor) {
