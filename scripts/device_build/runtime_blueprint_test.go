@@ -188,6 +188,13 @@ func runtimePlatform(t *testing.T, aosp string) android.FixturePreparer {
 	for path, text := range runtimeMocks {
 		files[path] = []byte(text)
 	}
+	// The messages the aidl_interface modules' API checks print, which the fixture's tree lacks
+	// (a missing file is a missing dependency here).
+	messages, _ := filepath.Glob(filepath.Join(aosp, "system/tools/aidl/build/message_check_*.txt"))
+	for _, path := range messages {
+		rel, _ := filepath.Rel(aosp, path)
+		files[rel] = nil
+	}
 	// system/core/include, in every platform module's include path, is a directory of links to
 	// the libraries' headers in a checkout; the runtime's sources read two of them.
 	for link, target := range map[string]string{"utils": "libutils/include/utils",
@@ -246,8 +253,49 @@ func runtimeVariant(t *testing.T, ctx *android.TestContext, name, prefix string)
 	return ""
 }
 
+// checkResolved fails the test for each module variant beneath the arm64 ones of roots (arm64,
+// or of no architecture: genrules) whose build Soong turned into an error: one that depends on
+// what neither the tree nor the fixture has (allowed for the modules of the runtime's whole files
+// that nothing here builds).
+func checkResolved(t *testing.T, ctx *android.TestContext, roots []blueprint.Module) {
+	seen := map[blueprint.Module]bool{}
+	var visit func(m blueprint.Module)
+	visit = func(m blueprint.Module) {
+		variant := ctx.ModuleSubDir(m)
+		if seen[m] || variant != "" && !strings.Contains(variant, "_arm64_") {
+			return
+		}
+		seen[m] = true
+		name := ctx.ModuleName(m)
+		tm := ctx.ModuleForTests(name, variant)
+		for _, out := range tm.AllOutputs() {
+			if params := tm.Output(out); params.Rule == android.ErrorRule {
+				t.Errorf("%s (%s): %s", name, variant, params.Args["error"])
+				return
+			}
+		}
+		ctx.VisitDirectDeps(m, visit)
+	}
+	for _, m := range roots {
+		if strings.Contains(ctx.ModuleSubDir(m), "_arm64_") {
+			visit(m)
+		}
+	}
+}
+
+// The project's modules, every variant (checkResolved takes the arm64 ones).
+func projectModules(ctx *android.TestContext) []blueprint.Module {
+	var modules []blueprint.Module
+	ctx.VisitAllModules(func(m blueprint.Module) {
+		if dir := ctx.ModuleDir(m); dir == vexilctlDir || strings.HasPrefix(dir, vexilctlDir+"/") {
+			modules = append(modules, m)
+		}
+	})
+	return modules
+}
+
 // The build actions of the runtime modules and of everything they build from, each module
-// variant once; a module with dependencies missing from the tree fails the test.
+// variant once.
 func runtimeClosure(t *testing.T, ctx *android.TestContext, roots []blueprint.Module) []vexilctlAction {
 	var actions []vexilctlAction
 	seen := map[blueprint.Module]bool{}
@@ -260,13 +308,6 @@ func runtimeClosure(t *testing.T, ctx *android.TestContext, roots []blueprint.Mo
 		seen[m] = true
 		name := ctx.ModuleName(m)
 		tm := ctx.ModuleForTests(name, variant)
-		for _, out := range tm.AllOutputs() {
-			params := tm.Output(out)
-			if params.Rule == android.ErrorRule {
-				t.Errorf("%s (%s): %s", name, variant, params.Args["error"])
-				return
-			}
-		}
 		// What an action must wait for (generated headers) is as much its input as its sources.
 		for _, action := range moduleActions(tm, name, variant) {
 			action.Implicits = append(action.Implicits, tm.Output(action.Outputs[0]).OrderOnly.Strings()...)
@@ -338,11 +379,9 @@ func testData(t *testing.T, ctx *android.TestContext, m blueprint.Module) []stri
 }
 
 // writeRuntime writes the runtime's build actions and modules to VEXILCTL_RUNTIME.
+// The project's modules and the runtime's are checked for what the tree lacks whether or not
+// they are written.
 func writeRuntime(t *testing.T, ctx *android.TestContext) {
-	out := os.Getenv("VEXILCTL_RUNTIME")
-	if out == "" {
-		return
-	}
 	var roots []blueprint.Module
 	var modules []runtimeModule
 	for family, names := range map[string][]string{"android": runtimeSystemModules,
@@ -373,6 +412,11 @@ func writeRuntime(t *testing.T, ctx *android.TestContext) {
 			}
 			modules = append(modules, module)
 		}
+	}
+	checkResolved(t, ctx, append(roots, projectModules(ctx)...))
+	out := os.Getenv("VEXILCTL_RUNTIME")
+	if out == "" {
+		return
 	}
 	sort.Slice(modules, func(i, j int) bool { return modules[i].Module < modules[j].Module })
 	lists := map[string][]string{}
