@@ -162,7 +162,12 @@ def run(cases: list, args) -> int:
     def report(case: Case):
         start = time.monotonic()
         try:
-            problems = judge(case, run_case(case, args, prefix))
+            seen = run_case(case, args, prefix)
+            for _ in range(2):  # runs meant for one second that a slow machine spread over two
+                if not sandbox.crossed_a_second(case, seen):
+                    break
+                seen = run_case(case, args, prefix)
+            problems = judge(case, seen)
         except (RuntimeError, subprocess.TimeoutExpired, pickle.UnpicklingError, EOFError) as e:
             problems = [str(e)]
         head = f"{case.name} ({case.path}:{case.line}, {time.monotonic() - start:.2f} s)"

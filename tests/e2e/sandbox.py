@@ -132,6 +132,11 @@ def stand_in(runs: str, repeat: int, argv: list) -> int:
     return status if status >= 0 else 128 - status
 
 
+def crossed_a_second(case, seen: dict) -> bool:
+    """Whether the runs of a case that repeats its command fell into more than one second."""
+    return case.sandbox is not None and case.sandbox.repeat > 1 and len(seen.get("stamps", [])) > 1
+
+
 def judge(case, seen: dict, compare_stream) -> list:
     """Problems with the sandbox of a case; compare_stream(name, matcher, actual, problems) is
     the runner's comparison of expected and actual bytes."""
