@@ -7,9 +7,10 @@ linker's symbols prefixed, bionic's headers for vendor code)."""
 import json
 from pathlib import Path
 
+# sbox copies what a failed command left to its outputs, which ninja would then take as built.
 RULES = """
 rule sbox
-  command = $command
+  command = $command || { rm -f $out; exit 1; }
   description = $module: generate $out
 rule arWithLibs
   command = rm -f $out && $arCmd $arObjFlags $out @$out.rsp && $arCmd $arLibFlags $out $arLibs
