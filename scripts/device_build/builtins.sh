@@ -35,9 +35,10 @@ for deb in "$state"/*_arm64.deb; do dpkg-deb -x "$deb" "$state/x"; done
 for name in "${names[@]}"; do
     flags=(--remove-section=.llvm_addrsig)
     [ "$name" = libunwind ] && flags+=(--remove-section=.deplibs
-        --redefine-sym=__fprintf_chk=__libunwind_fprintf_chk --redefine-sym=dladdr=__libunwind_dladdr)
-    llvm-objcopy-14 "${flags[@]}" \
-        "$(find "$state/x" -type f \( -name "$name-aarch64.a" -o -name "$name.a" \) | head -1)" "$out/$name.a"
+        --redefine-sym=__fprintf_chk=__libunwind_fprintf_chk
+        --redefine-sym=dladdr=__libunwind_dladdr)
+    archive=$(find "$state/x" -type f \( -name "$name-aarch64.a" -o -name "$name.a" \) | head -1)
+    llvm-objcopy-14 "${flags[@]}" "$archive" "$out/$name.a"
 done
 rm -rf "$state"
 

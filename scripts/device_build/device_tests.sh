@@ -22,14 +22,19 @@ fail() {
     status=1
 }
 
-[ -x "$image/vendor/bin/vexilctl" ] || { echo "device_tests: run the runtime step first" >&2; exit 1; }
+if [ ! -x "$image/vendor/bin/vexilctl" ]; then
+    echo "device_tests: run the runtime step first" >&2
+    exit 1
+fi
 if [ ! -x "$tarnmodem" ]; then
-    (cd "$ROOT" && cmake --preset default >/dev/null && cmake --build --preset default --target tarnmodem) >/dev/null
+    (cd "$ROOT" && cmake --preset default && cmake --build --preset default --target tarnmodem) \
+        >/dev/null
 fi
 stamp=$( (cd "$image" && find . \( -type f -o -type l \) -printf '%p %l\n' | LC_ALL=C sort &&
     find . -type f -print0 | LC_ALL=C sort -z | xargs -0 sha1sum) |
     cat - "$tarnmodem" "$ROOT"/tests/{e2e,fault_matrix}/*.py "$ROOT"/tests/e2e/cases/* \
-        "$ROOT"/tests/golden/* "$ROOT"/scripts/device_build/{device_tests.sh,on_device.sh,check_*.py} |
+        "$ROOT"/tests/golden/* "$ROOT"/scripts/device_build/{device_tests.sh,on_device.sh} \
+        "$ROOT"/scripts/device_build/check_*.py |
     sha1sum | cut -c1-40)
 if [ "$(cat "$SCRATCH/device_tests.passed" 2>/dev/null)" = "$stamp" ]; then
     echo "device_tests: ok (unchanged since it last passed)"
@@ -40,15 +45,18 @@ rm -f "$SCRATCH/device_tests.passed"
 programs=(/vendor/bin/vexilctl /data/nativetest64/vendor/vexilctl_unit_tests/vexilctl_unit_tests)
 for program in "${programs[@]}"; do
     echo "$program:"
-    (cd / && bash "$run" --data /system/bin/linker64 --list "$program" 2>&1) | sed 's/ (0x[0-9a-f]*)$//'
+    (cd / && bash "$run" --data /system/bin/linker64 --list "$program" 2>&1) |
+        sed 's/ (0x[0-9a-f]*)$//'
 done >"$SCRATCH/loaded.txt" || fail "the loader cannot list what ${programs[*]} load"
 sed 's/^/device_tests: /' "$SCRATCH/loaded.txt"
 python3 "$ROOT/scripts/device_build/check_image.py" || status=1
 
 # The loader is silent: the usage text alone on stderr, byte for byte as bionic formats it.
 err=$(bash "$run" /vendor/bin/vexilctl foo 2>&1 >/dev/null) && fail "vexilctl foo exits 0"
-[ "$(grep -c 'percentage()\.' <<<"$err")" = 1 ] && [ "$(head -1 <<<"$err")" = \
-    "Usage: vexilctl <command> [<arg1> [<arg2> ...]]" ] || fail "vexilctl foo wrote: $(head -3 <<<"$err")"
+if [ "$(grep -c 'percentage()\.' <<<"$err")" != 1 ] ||
+    [ "$(head -1 <<<"$err")" != "Usage: vexilctl <command> [<arg1> [<arg2> ...]]" ]; then
+    fail "vexilctl foo wrote: $(head -3 <<<"$err")"
+fi
 
 # Without the VNDK's libc++.so, the system's is not found for vendor code.
 isolated=$SCRATCH/image-isolation
@@ -61,24 +69,23 @@ grep -q 'library "libc++.so" not found' <<<"$err" ||
 rm -rf "$isolated"
 
 echo "device_tests: unit tests"
+unit_log=$SCRATCH/unit_tests.log
 (cd / && bash "$run" --data /data/nativetest64/vendor/vexilctl_unit_tests/vexilctl_unit_tests \
-    --gtest_brief=1) >"$SCRATCH/unit_tests.log" 2>&1 || fail "unit tests failed:"$'\n'"$(cat "$SCRATCH/unit_tests.log")"
-tail -1 "$SCRATCH/unit_tests.log"
+    --gtest_brief=1) >"$unit_log" 2>&1 || fail "unit tests failed:"$'\n'"$(cat "$unit_log")"
+tail -1 "$unit_log"
 
 # The end-to-end harness runs what it is given: the image's vexilctl, its log at the case's socket.
 mkdir -p "$SCRATCH/bin"
-printf '#!/bin/sh\nexec bash %s --logdw "$VEXIL_LOGDW" /vendor/bin/vexilctl "$@"\n' "$run" >"$SCRATCH/bin/vexilctl"
+printf '#!/bin/sh\nexec bash %s --logdw "$VEXIL_LOGDW" /vendor/bin/vexilctl "$@"\n' "$run" \
+    >"$SCRATCH/bin/vexilctl"
 chmod +x "$SCRATCH/bin/vexilctl"
 harness=(--vexilctl "$SCRATCH/bin/vexilctl" --tarnmodem "$tarnmodem" --logd --formatter bionic
     --jobs "$(nproc)")
+python3 "$ROOT/tests/e2e/run_cases.py" "${harness[@]}" --golden "$ROOT/tests/golden" \
+    "$ROOT"/tests/e2e/cases/*.case >"$SCRATCH/e2e.log" 2>&1 || status=1
+python3 "$ROOT/tests/fault_matrix/fault_matrix.py" "${harness[@]}" \
+    >"$SCRATCH/fault_matrix.log" 2>&1 || status=1
 for suite in e2e fault_matrix; do
-    if [ $suite = e2e ]; then
-        python3 "$ROOT/tests/e2e/run_cases.py" "${harness[@]}" --golden "$ROOT/tests/golden" \
-            "$ROOT"/tests/e2e/cases/*.case >"$SCRATCH/$suite.log" 2>&1 || status=1
-    else
-        python3 "$ROOT/tests/fault_matrix/fault_matrix.py" "${harness[@]}" >"$SCRATCH/$suite.log" 2>&1 ||
-            status=1
-    fi
     grep -v '^ok ' "$SCRATCH/$suite.log" | sed "s/^/device_tests: $suite: /"
 done
 [ $status = 0 ] && echo "$stamp" >"$SCRATCH/device_tests.passed"

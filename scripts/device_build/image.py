@@ -30,7 +30,8 @@ ROOT, SCRATCH = Path(os.environ["ROOT"]), Path(os.environ["SCRATCH"])
 TREE, IMAGE = SCRATCH / "tree", SCRATCH / "image"
 INSTALLED = "target/product/test_device/"
 BIONIC = {"libc", "libm", "libdl", "libdl_android", "linker"}  # cc/cc.go isBionic
-RUNTIME_APEX, VNDK_APEX = "apex/com.android.runtime", f"apex/com.android.vndk.v{linkerconfig.VNDK_VERSION}"
+RUNTIME_APEX = "apex/com.android.runtime"
+VNDK_APEX = f"apex/com.android.vndk.v{linkerconfig.VNDK_VERSION}"
 # No shell is in the tree (a device's /vendor/bin/sh is mksh): the host's stands in.
 SHELL = "/bin/sh"
 
@@ -46,8 +47,9 @@ def layout(runtime: dict) -> dict:
             entries[f"{VNDK_APEX}/lib64/{source.name}"] = ("file", source)
             continue
         if m["Module"] in BIONIC:
-            first = Path(installs[0])
-            apex = f"{RUNTIME_APEX}/{first.parent.name}/{'' if first.parent.name == 'bin' else 'bionic/'}{first.name}"
+            first = Path(installs[0])  # system/bin/linker64, system/lib64/libc.so
+            where = "bin" if first.parent.name == "bin" else f"{first.parent.name}/bionic"
+            apex = f"{RUNTIME_APEX}/{where}/{first.name}"
             entries[apex] = ("file", source)
             for install in installs:
                 entries[install] = ("link", "/" + apex)

@@ -174,7 +174,8 @@ func runtimePlatform(t *testing.T, aosp string) android.FixturePreparer {
 		}))
 	}
 	for _, project := range runtimeProjects {
-		err := filepath.Walk(filepath.Join(aosp, project), func(p string, info os.FileInfo, err error) error {
+		top := filepath.Join(aosp, project)
+		err := filepath.Walk(top, func(p string, info os.FileInfo, err error) error {
 			if err == nil && !info.IsDir() && info.Name() != "Android.bp" {
 				rel, _ := filepath.Rel(aosp, p)
 				files[rel] = nil
@@ -296,7 +297,8 @@ func projectModules(ctx *android.TestContext) []blueprint.Module {
 
 // The build actions of the runtime modules and of everything they build from, each module
 // variant once.
-func runtimeClosure(t *testing.T, ctx *android.TestContext, roots []blueprint.Module) []vexilctlAction {
+func runtimeClosure(t *testing.T, ctx *android.TestContext,
+	roots []blueprint.Module) []vexilctlAction {
 	var actions []vexilctlAction
 	seen := map[blueprint.Module]bool{}
 	var visit func(m blueprint.Module, family string)
@@ -328,7 +330,8 @@ func runtimeClosure(t *testing.T, ctx *android.TestContext, roots []blueprint.Mo
 // commands in sbox (the action carries sbox's command line and its manifest), archives with
 // libraries linked whole, the prefixing of the linker's symbols, and bionic's headers as the
 // versioner gives them to vendor code.
-func runtimeOnlyActions(t *testing.T, m android.TestingModule, name, variant string) []vexilctlAction {
+func runtimeOnlyActions(t *testing.T, m android.TestingModule,
+	name, variant string) []vexilctlAction {
 	var actions []vexilctlAction
 	seen := map[string]bool{}
 	for _, out := range m.AllOutputs() {
@@ -342,7 +345,8 @@ func runtimeOnlyActions(t *testing.T, m android.TestingModule, name, variant str
 		rule = rule[strings.LastIndex(rule, ".")+1:]
 		i := strings.Index(command, " --manifest ")
 		sbox := strings.Contains(command, "/sbox ") && i >= 0
-		if seen[first] || !(android.InList(rule, []string{"prefixSymbols", "arWithLibs", "versionBionicHeaders"}) || sbox) {
+		kept := []string{"prefixSymbols", "arWithLibs", "versionBionicHeaders"}
+		if seen[first] || !(android.InList(rule, kept) || sbox) {
 			continue
 		}
 		seen[first] = true
@@ -353,7 +357,8 @@ func runtimeOnlyActions(t *testing.T, m android.TestingModule, name, variant str
 			action.Args = map[string]string{"command": command, "manifest": manifest,
 				"content": android.ContentFromFileRuleForTests(t, m.Output(manifest))}
 		}
-		for _, p := range append(android.Paths{params.Input}, append(params.Inputs, params.Implicits...)...) {
+		inputs := append(android.Paths{params.Input}, params.Inputs...)
+		for _, p := range append(inputs, params.Implicits...) {
 			if p != nil {
 				action.Inputs = append(action.Inputs, p.String())
 			}

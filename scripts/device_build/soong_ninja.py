@@ -85,7 +85,8 @@ def in_checkout(path: Path) -> Path:
     path = Path(os.path.normpath(path))
     for link, target in CHECKOUT_LINKS.items():
         if path.is_relative_to(AOSP / link):
-            return Path(os.path.normpath(AOSP / link / ".." / target)) / path.relative_to(AOSP / link)
+            resolved = Path(os.path.normpath(AOSP / link / ".." / target))
+            return resolved / path.relative_to(AOSP / link)
     return path
 
 
@@ -96,7 +97,8 @@ def archived_symlinks(top: Path) -> dict:
     for path in top.rglob("*"):
         if path.is_file() and not path.is_symlink() and path.stat().st_size < 256:
             text = path.read_bytes()
-            if text.startswith(b"../") and b"\n" not in text and in_checkout(path.parent / text.decode()).exists():
+            if (text.startswith(b"../") and b"\n" not in text and
+                    in_checkout(path.parent / text.decode()).exists()):
                 found[path] = text.decode()
     return found
 
@@ -190,7 +192,8 @@ def write_ninja() -> tuple:
         if action["Module"] in LINKED and action["Rule"] == "ld":
             linked.append(out)
     lines += [f"build compile: phony {' '.join(compiled)}", f"build link: phony {' '.join(linked)}"]
-    lines.append(f"build headers: phony {' '.join(runtime_ninja.headers(runtime) if runtime else [])}")
+    headers = runtime_ninja.headers(runtime) if runtime else []
+    lines.append(f"build headers: phony {' '.join(headers)}")
     if runtime:
         lines.append(f"build runtime: phony {' '.join(runtime_ninja.targets(runtime))}")
     path = TREE / "out/build.ninja"
