@@ -1,17 +1,21 @@
 #!/usr/bin/env bash
-# The compiler runtime archives a device module links, which Android ships with its clang
-# prebuilts (not in the tree): the builtins (emulated TLS among them), the minimal UBSan runtime
-# of the integer sanitizer and LLVM's libunwind (which bionic's linker links, and libc.so links
-# whole as libunwind-exported), taken from Debian's arm64 build of the same LLVM (14.0.6) as
-# build/device/prebuilts/<name>.a. Downloaded once, with a private apt state: the machine's own
-# is not touched. Debian builds them for glibc; what that changes is mended with the sources in
-# compat/, compiled for bionic.
+# The compiler runtimes a device module links, which Android ships with its clang prebuilts
+# (not in the tree): the builtins (emulated TLS among them) and the minimal UBSan runtime of the
+# integer sanitizer, for the fuzzers libFuzzer and the UBSan runtime their libraries link, and
+# LLVM's libunwind (which bionic's linker links, and libc.so links whole as libunwind-exported),
+# taken from Debian's arm64 build of the same LLVM (14.0.6) as build/device/prebuilts/<name>.a
+# (.so). Downloaded once, with a private apt state: the machine's own is not touched. Debian
+# builds them for glibc; what that changes is mended with the sources in compat/, compiled for
+# bionic.
 set -euo pipefail
 out=$SCRATCH/prebuilts
-names=(libclang_rt.builtins libclang_rt.ubsan_minimal libunwind)
+names=(libclang_rt.builtins.a libclang_rt.ubsan_minimal.a libclang_rt.fuzzer.a
+    libclang_rt.ubsan_standalone.so libunwind.a)
 missing=0
-for name in "${names[@]}" libunwind-exported; do [ -f "$out/$name.a" ] || missing=1; done
-[ $missing = 0 ] && exit 0
+for name in "${names[@]}" libunwind-exported.a; do
+    [ -f "$out/$name" ] || missing=1
+done
+[ $missing = 1 ] || exit 0
 
 state=$out/apt
 rm -rf "$state" && mkdir -p "$state/lists/partial" "$state/cache/archives/partial" "$state/sources.list.d"
@@ -34,11 +38,12 @@ for deb in "$state"/*_arm64.deb; do dpkg-deb -x "$deb" "$state/x"; done
 # build does not (compat/libunwind_glibc.c).
 for name in "${names[@]}"; do
     flags=(--remove-section=.llvm_addrsig)
-    [ "$name" = libunwind ] && flags+=(--remove-section=.deplibs
+    [ "$name" = libunwind.a ] && flags+=(--remove-section=.deplibs
         --redefine-sym=__fprintf_chk=__libunwind_fprintf_chk
         --redefine-sym=dladdr=__libunwind_dladdr)
-    archive=$(find "$state/x" -type f \( -name "$name-aarch64.a" -o -name "$name.a" \) | head -1)
-    llvm-objcopy-14 "${flags[@]}" "$archive" "$out/$name.a"
+    file=$(find "$state/x" -type f \( -name "${name%.*}-aarch64.${name##*.}" -o -name "$name" \) |
+        head -1)
+    llvm-objcopy-14 "${flags[@]}" "$file" "$out/$name"
 done
 rm -rf "$state"
 

@@ -12,6 +12,7 @@ declare -A packages=(
     [android-liblog-dev]=/usr/include/android/android/log.h
     [libfmt-dev]=/usr/include/fmt/format.h
     [libgtest-dev]=/usr/include/gtest/gtest.h
+    [libselinux1-dev]=/usr/include/selinux/label.h
     [bison]=/usr/bin/bison
     [flex]=/usr/bin/flex
     [clang-14]=/usr/bin/clang++-14

@@ -5,7 +5,8 @@
 # everything they link; genrules run in Soong's own sbox, built from the tree's build/soong. Then
 # the device image (build/device/image, image.py) with these and the project's modules.
 set -euo pipefail
-[ -e "$SCRATCH/runtime.json" ] || { echo "runtime: run the soong step first" >&2; exit 1; }
+source "$ROOT/scripts/device_build/analysis.sh"
+require_analysis runtime
 bash "$ROOT/scripts/device_build/builtins.sh"
 export GOFLAGS=-mod=mod GOPROXY=off GO111MODULE=on GOTOOLCHAIN=local
 export GOCACHE=$SCRATCH/go/cache GOPATH=$SCRATCH/go/path

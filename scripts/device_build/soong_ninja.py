@@ -5,9 +5,10 @@ projects, the project under vendor/kest/vexilctl, the aidl compiler's output whe
 generates it, out/ for everything built), so every command runs as Soong wrote it, from the
 tree's root, with clang 14 and lld for aarch64-linux-android33.
 
-    soong_ninja.py compile   every source of the device modules, the generated library's too
-    soong_ninja.py link      the platform's stubs and libraries, then the tool, its library and
-                             the unit tests, linked
+    soong_ninja.py compile   every source of the project's device modules (the tool, its unit
+                             tests, every fuzzer, the generated library)
+    soong_ninja.py link      the platform's stubs and libraries, then each of those modules,
+                             linked
     soong_ninja.py runtime   Android 13's runtime that these load (runtime_ninja.py)
 
 A rerun builds only what changed (the platform's libraries once)."""
@@ -26,12 +27,12 @@ TREE = SCRATCH / "tree"
 PROJECT = "vendor/kest/vexilctl/"
 NDK_GEN = ("out/soong/.intermediates/vendor/kest/vexilctl/service/aidl/"
            "vendor.kest.hardware.vexil_svc-V1-ndk-source/gen")
-# What the compile step builds, and what the link step links: the device modules and the
-# generated library. The fuzzers are compiled only (their runtime is not in the tree), and only
-# their own sources: the others differ from the tool's by the coverage flags.
-COMPILED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
-FUZZERS = ("vexilctl_front_fuzzer", "vexilctl_response_fuzzer")
-LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
+# What the compile step compiles and the link step links: every module of the project's, each
+# variant Soong builds (the generated library's fuzzer variant too).
+PROJECT_OUT = "out/soong/.intermediates/" + PROJECT
+# The compiler runtimes in build/device/prebuilts/ (builtins.sh).
+RUNTIMES = ("libclang_rt.builtins.a", "libclang_rt.ubsan_minimal.a", "libclang_rt.fuzzer.a",
+            "libclang_rt.ubsan_standalone.so")
 
 RULES = """
 rule cc
@@ -61,7 +62,41 @@ rule strip
 rule reduce
   command = llvm-ifs-14 --input-format=ELF --output-ifs=$out.ifs $in && grep -v 'Undefined: true' $out.ifs >$out.defined.ifs && llvm-ifs-14 --input-format=IFS --output-elf=$out $out.defined.ifs
   description = $module: reduce $out to its dynamic symbols
+rule reduceRuntime
+  command = llvm-ifs-14 --input-format=ELF --output-ifs=$out.ifs $in && grep -v 'Undefined: true' $out.ifs >$out.defined.ifs && llvm-ifs-14 --input-format=IFS --soname=$soname --output-elf=$out $out.defined.ifs
+  description = $module: reduce $out to its dynamic symbols
+rule runtimeStub
+  command = python3 $stub $in $out
+  description = $module: stub of $in
 """
+
+# The fuzzers' runtimes, which Android ships with its clang prebuilts (not in the tree): libFuzzer,
+# linked into each fuzzer, and the UBSan runtime that the fuzzers and their libraries' fuzzer
+# variants link. Debian's arm64 builds of the same LLVM (builtins.sh) are made for glibc and
+# libstdc++, which a bionic program cannot link: each stands in by the symbols it defines, as the
+# VNDK libraries do (libFuzzer as an archive of stubs, runtime_stub.py; the UBSan runtime
+# reduced). Soong's analysis names each by its module; the fixture builds neither.
+RUNTIME = re.compile(r"^out/soong/\.intermediates/(?:defaults/cc/common/)?(libclang_rt\.\w+)/[^/]+/\1\.(a|so)$")
+
+
+def runtime_statements(data: dict, outputs: set) -> list:
+    """Build statements for the runtimes that the links name and no action of Soong's makes."""
+    lines = []
+    for action in data["Actions"]:
+        for path in action["Args"].get("libFlags", "").split() if action["Rule"] == "ld" else []:
+            m = RUNTIME.match(path)
+            if not m or path in outputs:
+                continue
+            outputs.add(path)
+            name, kind = m.groups()
+            source = f"defaults/cc/common/{name}-aarch64-android.{kind}"
+            if kind == "a":
+                lines += [f"build {path}: runtimeStub {source} | {ROOT}/scripts/device_build/runtime_stub.py",
+                          f"  stub = {ROOT}/scripts/device_build/runtime_stub.py"]
+            else:
+                lines += [f"build {path}: reduceRuntime {source}", f"  soname = {name}-aarch64-android.so"]
+            lines.append(f"  module = {name}")
+    return lines
 
 
 def tool(path: str) -> str:
@@ -123,12 +158,13 @@ def make_tree(api_levels: dict) -> None:
     projects = ("bionic", "build", "external", "frameworks", "system")
     links = {p: t for d in projects for p, t in archived_symlinks(AOSP / d).items()}
     links.update({AOSP / link: target for link, target in CHECKOUT_LINKS.items()})
-    places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk"}
-    places.update({f"defaults/cc/common/{name}-aarch64-android.a": SCRATCH / "prebuilts" / f"{name}.a"
-                   for name in ("libclang_rt.builtins", "libclang_rt.ubsan_minimal")})
-    places.update({"defaults/cc/common/libunwind.a": SCRATCH / "prebuilts/libunwind.a",
-                   "prebuilts/clang/host/linux-x86/libunwind-exported.a":
-                       SCRATCH / "prebuilts/libunwind-exported.a"})
+    places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk",
+              "defaults/cc/common/libunwind.a": SCRATCH / "prebuilts/libunwind.a",
+              "prebuilts/clang/host/linux-x86/libunwind-exported.a":
+                  SCRATCH / "prebuilts/libunwind-exported.a"}
+    for name in RUNTIMES:  # as the clang prebuilts name them for arm64
+        stem, kind = name.rsplit(".", 1)
+        places[f"defaults/cc/common/{stem}-aarch64-android.{kind}"] = SCRATCH / "prebuilts" / name
     stamp = TREE / "out/tree.stamp"
     state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links)),
                         sorted((rel, str(target)) for rel, target in places.items())])
@@ -179,18 +215,15 @@ def write_ninja() -> tuple:
     make_tree(data["ApiLevels"])
     lines = [f"builddir = out", f"aosp = {AOSP}", RULES, runtime_ninja.RULES]
     outputs, compiled, linked = set(), [], []
-    shared = {a["Inputs"][0] for a in data["Actions"] if a["Rule"] == "cc" and a["Module"] in COMPILED}
     for action in data["Actions"] + (runtime["Actions"] if runtime else []):
         out = action["Outputs"][0]
-        if out in outputs:
+        if out in outputs or action["Module"].startswith("libclang_rt."):  # runtimes: below
             continue
         outputs.add(out)
         lines += statement(action)
-        if action["Rule"] == "cc" and (action["Module"] in COMPILED or (
-                action["Module"] in FUZZERS and action["Inputs"][0] not in shared)):
-            compiled.append(out)
-        if action["Module"] in LINKED and action["Rule"] == "ld":
-            linked.append(out)
+        if out.startswith(PROJECT_OUT) and action["Rule"] in ("cc", "ld"):
+            (compiled if action["Rule"] == "cc" else linked).append(out)
+    lines += runtime_statements(data, outputs)
     lines += [f"build compile: phony {' '.join(compiled)}", f"build link: phony {' '.join(linked)}"]
     headers = runtime_ninja.headers(runtime) if runtime else []
     lines.append(f"build headers: phony {' '.join(headers)}")
@@ -210,11 +243,11 @@ def run_ninja(target: str) -> int:
     done = subprocess.run(["nice", "-n", "10", "ninja", "-f", "out/build.ninja", "-k", "0", "-j2",
                            target], cwd=TREE, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                           text=True)
-    if done.returncode:  # the failing outputs and the tools' messages, without the command lines
-        print("\n".join(line for line in ANSI.sub("", done.stdout).splitlines()
-                        if line.startswith(("FAILED", "ninja: error")) or
-                        re.search(r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)),
-              file=sys.stderr)
+    if done.returncode:  # the tools' messages, then the failing outputs, without the command lines
+        lines = ANSI.sub("", done.stdout).splitlines()
+        print("\n".join([line for line in lines if re.search(
+            r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)] +
+            [line for line in lines if line.startswith(("FAILED", "ninja: error"))]), file=sys.stderr)
     return done.returncode
 
 

@@ -172,7 +172,7 @@ func vexilctlFiles(t *testing.T, root string) map[string][]byte {
 		}
 		rel, _ := filepath.Rel(root, path)
 		if info.IsDir() {
-			if skip[rel] {
+			if skip[rel] || info.Name() == "__pycache__" { // Python's caches beside its scripts
 				return filepath.SkipDir
 			}
 			return nil
@@ -241,6 +241,13 @@ type vexilctlAction struct {
 
 // The actions of a module variant that compile, archive, link or generate stubs.
 func moduleActions(m android.TestingModule, name, variant string) []vexilctlAction {
+	return ruleActions(m, name, variant, func(rule string) bool {
+		return android.InList(rule, []string{"cc", "ar", "ld", "partialLd", "genStubSrc", "strip"})
+	})
+}
+
+// The actions of a module variant whose rule keep accepts.
+func ruleActions(m android.TestingModule, name, variant string, keep func(rule string) bool) []vexilctlAction {
 	var actions []vexilctlAction
 	seen := map[string]bool{}
 	for _, out := range m.AllOutputs() {
@@ -253,7 +260,7 @@ func moduleActions(m android.TestingModule, name, variant string) []vexilctlActi
 		} else {
 			first = params.Outputs[0].String()
 		}
-		if seen[first] || !android.InList(rule, []string{"cc", "ar", "ld", "partialLd", "genStubSrc", "strip"}) {
+		if seen[first] || !keep(rule) {
 			continue
 		}
 		seen[first] = true
@@ -314,6 +321,13 @@ func closureActions(ctx *android.TestContext, roots []blueprint.Module) []vexilc
 	return actions
 }
 
+// What the test checks of a module of the project (each cc_fuzz at least for its variant).
+type vexilctlWanted struct {
+	variant  string
+	needs    []string // sources the module must compile
+	installs []string // install locations under the product directory
+}
+
 func TestVexilctlVendorTree(t *testing.T) {
 	root, aosp := os.Getenv("VEXILCTL_ROOT"), os.Getenv("VEXILCTL_AOSP")
 	if root == "" || aosp == "" {
@@ -342,11 +356,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	).RunTest(t)
 	ctx := result.TestContext
 
-	wanted := map[string]struct {
-		variant  string
-		needs    []string // sources the module must compile
-		installs []string // install locations under the product directory
-	}{
+	wanted := map[string]vexilctlWanted{
 		"vexilctl": {"", []string{"front/main.cpp", "front/RequestManager.cpp"},
 			[]string{"vendor/bin/vexilctl"}},
 		"vexilctl_unit_tests": {"", []string{"tests/unit/front_usage_test.cpp"},
@@ -354,23 +364,23 @@ func TestVexilctlVendorTree(t *testing.T) {
 		"vexilctl_front_fuzzer":    {"_fuzzer", []string{"tests/fuzz/front_fuzzer.cpp"}, nil},
 		"vexilctl_response_fuzzer": {"_fuzzer", []string{"tests/fuzz/response_fuzzer.cpp"}, nil},
 	}
+	for _, name := range vexilctlFuzzers(ctx) {
+		if _, known := wanted[name]; !known {
+			wanted[name] = vexilctlWanted{variant: "_fuzzer"}
+		}
+	}
 	names := make([]string, 0, len(wanted))
 	for name := range wanted {
 		names = append(names, name)
 	}
 	sort.Strings(names)
 	var roots []blueprint.Module
-	var actions []vexilctlAction
 	for _, name := range names {
 		want := wanted[name]
 		variant := vendorVariant(t, ctx, name, want.variant)
 		m := ctx.ModuleForTests(name, variant)
 		own := moduleActions(m, name, variant)
-		if want.variant == "_fuzzer" { // compiled only: the fuzzers' runtime is not in the tree
-			actions = append(actions, own...)
-		} else {
-			roots = append(roots, m.Module())
-		}
+		roots = append(roots, m.Module())
 		var srcs []string
 		for _, action := range own {
 			if action.Rule == "cc" && strings.HasPrefix(action.Inputs[0], vexilctlDir+"/") {
@@ -393,7 +403,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 			}
 		}
 		if name == "vexilctl_unit_tests" {
-			checkGoldenData(t, ctx, m, installs)
+			checkGoldenData(t, ctx, m, root, installs)
 		}
 	}
 
@@ -402,7 +412,9 @@ func TestVexilctlVendorTree(t *testing.T) {
 		data, _ := json.MarshalIndent(struct {
 			ApiLevels map[string]int
 			Actions   []vexilctlAction
-		}{android.GetApiLevelsMap(result.Config), append(actions, closureActions(ctx, roots)...)}, "", " ")
+			Aidl      []vexilctlAction
+		}{android.GetApiLevelsMap(result.Config), closureActions(ctx, roots),
+			vexilctlAidlActions(ctx)}, "", " ")
 		if err := os.WriteFile(out, data, 0o644); err != nil {
 			t.Fatal(err)
 		}
@@ -411,7 +423,8 @@ func TestVexilctlVendorTree(t *testing.T) {
 
 // Tradefed runs a gtest from /, and the cc_test's data is installed beside the binary: the golden
 // directory the unit tests are compiled with must be where the golden files land.
-func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, installs []string) {
+func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, root string,
+	installs []string) {
 	golden := ""
 	for _, action := range moduleActions(m, "", "") {
 		if action.Rule != "cc" {
@@ -432,12 +445,72 @@ func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingMo
 	if len(data) == 0 {
 		t.Errorf("vexilctl_unit_tests installs no golden files")
 	}
+	installed := map[string]bool{}
 	for _, d := range data {
 		parts := strings.Split(d, ":") // source prefix, path relative to the module, install dir
-		installed := filepath.Join(installDir, parts[1])
-		if filepath.Dir(installed) != golden {
+		file := filepath.Join(installDir, parts[1])
+		rel, err := filepath.Rel(golden, file)
+		if err != nil || strings.HasPrefix(rel, "..") {
 			t.Errorf("vexilctl_unit_tests reads its golden files from %s (GOLDEN_DIR run from /), "+
-				"but %s is installed as %s", golden, parts[1], installed)
+				"but %s is installed as %s", golden, parts[1], file)
 		}
+		installed[rel] = true
 	}
+	checkGoldenFilesInstalled(t, root, installDir, golden, installed)
+}
+
+// What the unit tests read is the golden directory, subdirectories included: each of its files
+// must be among the test's installed data.
+func checkGoldenFilesInstalled(t *testing.T, root, installDir, golden string, installed map[string]bool) {
+	dir, err := filepath.Rel(installDir, golden)
+	if err != nil || strings.HasPrefix(dir, "..") {
+		t.Errorf("vexilctl_unit_tests: GOLDEN_DIR %s is not under the test's install directory %s",
+			golden, installDir)
+		return
+	}
+	err = filepath.Walk(filepath.Join(root, dir), func(path string, info os.FileInfo, err error) error {
+		if err != nil || info.IsDir() {
+			return err
+		}
+		rel, _ := filepath.Rel(filepath.Join(root, dir), path)
+		if !installed[rel] {
+			t.Errorf("vexilctl_unit_tests does not install %s/%s, which its tests read from %s/%s: "+
+				"its data in Android.bp must reach it (\"%s/*\" stops at the directory's own "+
+				"files; \"%s/**/*\" takes subdirectories too)", dir, rel, golden, rel, dir, dir)
+		}
+		return nil
+	})
+	if err != nil {
+		t.Errorf("vexilctl_unit_tests: %v", err)
+	}
+}
+
+// Every cc_fuzz module of the project, as the analysis found them.
+func vexilctlFuzzers(ctx *android.TestContext) []string {
+	var names []string
+	ctx.VisitAllModules(func(m blueprint.Module) {
+		if ctx.ModuleType(m) == "cc_fuzz" && strings.HasPrefix(ctx.ModuleDir(m), vexilctlDir) &&
+			!android.InList(ctx.ModuleName(m), names) {
+			names = append(names, ctx.ModuleName(m))
+		}
+	})
+	sort.Strings(names)
+	return names
+}
+
+// The aidl compiler's actions for the project's aidl_interface modules: each backend's
+// generation, the API dump and the API and hash checks, with the flags Soong gives them.
+func vexilctlAidlActions(ctx *android.TestContext) []vexilctlAction {
+	var actions []vexilctlAction
+	ctx.VisitAllModules(func(m blueprint.Module) {
+		if !strings.HasPrefix(ctx.ModuleDir(m), vexilctlDir) {
+			return
+		}
+		name, variant := ctx.ModuleName(m), ctx.ModuleSubDir(m)
+		actions = append(actions, ruleActions(ctx.ModuleForTests(name, variant), name, variant,
+			func(rule string) bool {
+				return android.InList(rule, []string{"aidlCppRule", "aidlDumpApiRule", "aidlCheckApiRule"})
+			})...)
+	})
+	return actions
 }
