@@ -40,23 +40,29 @@ def llndk_stub() -> Path:
     raise SystemExit("check_image: no link of vexilctl in actions.json")
 
 
-def main() -> int:
-    errors = []
+def unresolved() -> list:
+    """The imports of the project's files that no library the loader loaded defines."""
+    found = []
     for program, libraries in loaded().items():
         defined = {lib: dynamic_symbols(IMAGE / lib.lstrip("/"))[1] for lib in libraries}
         for path in [program] + [lib for lib in libraries if lib.startswith(PROJECT)]:
             imports, _ = dynamic_symbols(IMAGE / path.lstrip("/"))
-            errors += [f"{path} (in {program}): {symbol} is defined by no library the loader "
-                       f"loaded" for symbol in sorted(imports) if not provider(symbol, defined)]
+            found += [f"{path} (in {program}): {symbol} is defined by no library the loader "
+                      f"loaded" for symbol in sorted(imports) if not provider(symbol, defined)]
+    return found
+
+
+def main() -> int:
     _, exported = dynamic_symbols(IMAGE / "system/lib64/libbinder_ndk.so")
     _, llndk = dynamic_symbols(llndk_stub())
-    errors += [f"libbinder_ndk.so exports {symbol}, which is not LLNDK at that version"
-               for symbol in sorted(exported - llndk)]
+    not_llndk = [f"libbinder_ndk.so exports {symbol}, which is not LLNDK at that version"
+                 for symbol in sorted(exported - llndk)]
     print(f"check_image: libbinder_ndk.so exports {len(exported & llndk)} of the "
-          f"{len(llndk)} LLNDK symbols, nothing else")
+          f"{len(llndk)} LLNDK symbols" + ("" if not_llndk else ", nothing else"))
+    errors = unresolved() + not_llndk
     for error in errors:
-        print(f"check_image: {error}", file=sys.stderr)
-    return 1 if errors else 0
+        sys.stderr.write(f"check_image: {error}\n")
+    return int(bool(errors))
 
 
 if __name__ == "__main__":
