@@ -11,7 +11,7 @@ analysis_inputs() {
         cd "$ROOT"
         find . "${skip[@]}" -type f -print | LC_ALL=C sort
         find . "${skip[@]}" -name Android.bp -print0 | LC_ALL=C sort -z | xargs -0 sha1sum
-        sha1sum scripts/device_build/vexilctl_blueprint_test.go
+        sha1sum scripts/device_build/*_test.go
         echo "$AOSP_SRC"
     ) | sha1sum | cut -c1-40
 }

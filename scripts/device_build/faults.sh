@@ -96,10 +96,27 @@ socket_type_changed() { # the socket type changed in the code only
         server/VexilserverRequest.cpp
     check sepolicy
 }
+missing_dependency() { # a library the tree does not have
+    save Android.bp
+    sed -i 's/        "libutils",/        "libutils",\n        "libvexilnone",/' Android.bp
+    check soong
+}
+binder_function_missing() { # the binder transport without a function the device build calls
+    save host/platform/src/binder/ibinder.cpp
+    python3 - host/platform/src/binder/ibinder.cpp <<'EOF'
+import re, sys
+path = sys.argv[1]
+text = open(path).read()
+open(path, "w").write(re.sub(r"\nvoid AIBinder_Class_setHandleShellCommand\(.*?\n}\n", "\n", text,
+                             flags=re.S))
+EOF
+    check soong runtime device_tests
+}
 
 faults=("$@")
 [ ${#faults[@]} -gt 0 ] || faults=(stability go_test_renamed module_unseen link_alone_after_edit
-    fuzzer_host_only_call golden_subdirectory file_contexts_type instance_renamed socket_type_changed)
+    fuzzer_host_only_call golden_subdirectory file_contexts_type instance_renamed socket_type_changed
+    missing_dependency binder_function_missing)
 status=0
 table=()
 for fault in "${faults[@]}"; do

@@ -9,6 +9,7 @@ tree's root, with clang 14 and lld for aarch64-linux-android33.
                              tests, every fuzzer, the generated library)
     soong_ninja.py link      the platform's stubs and libraries, then each of those modules,
                              linked
+    soong_ninja.py runtime   Android 13's runtime that these load (runtime_ninja.py)
 
 A rerun builds only what changed (the platform's libraries once)."""
 
@@ -19,6 +20,8 @@ import subprocess
 import sys
 from pathlib import Path
 
+import runtime_ninja
+
 ROOT, AOSP, SCRATCH = (Path(os.environ[k]) for k in ("ROOT", "AOSP_SRC", "SCRATCH"))
 TREE = SCRATCH / "tree"
 PROJECT = "vendor/kest/vexilctl/"
@@ -27,12 +30,6 @@ NDK_GEN = ("out/soong/.intermediates/vendor/kest/vexilctl/service/aidl/"
 # What the compile step compiles and the link step links: every module of the project's, each
 # variant Soong builds (the generated library's fuzzer variant too).
 PROJECT_OUT = "out/soong/.intermediates/" + PROJECT
-# The VNDK libraries vendor code links against as their sources export them: built here, then
-# reduced to the symbols they define. What they link from outside the tree subset is missing
-# (libbase's sources: its library is empty; libvndksupport's symbol file: left out), so they
-# link without --no-undefined.
-VNDK = {"libc++", "libcutils", "libutils"}
-ABSENT = ("out/soong/.intermediates/system/core/libvndksupport/",)
 # The compiler runtimes in build/device/prebuilts/ (builtins.sh).
 RUNTIMES = ("libclang_rt.builtins.a", "libclang_rt.ubsan_minimal.a", "libclang_rt.fuzzer.a",
             "libclang_rt.ubsan_standalone.so")
@@ -111,6 +108,23 @@ def escape(text: str) -> str:
     return text.replace("$", "$$")
 
 
+# Links of a checkout that the subset does not keep (it has their targets): build/tools, and the
+# parts of system/core/include (in every platform module's include path) that the runtime reads.
+CHECKOUT_LINKS = {"build/tools": "make/tools",
+                  "system/core/include/system": "../libsystem/include/system",
+                  "system/core/include/utils": "../libutils/include/utils"}
+
+
+def in_checkout(path: Path) -> Path:
+    """The path a checkout's links lead to."""
+    path = Path(os.path.normpath(path))
+    for link, target in CHECKOUT_LINKS.items():
+        if path.is_relative_to(AOSP / link):
+            resolved = Path(os.path.normpath(AOSP / link / ".." / target))
+            return resolved / path.relative_to(AOSP / link)
+    return path
+
+
 def archived_symlinks(top: Path) -> dict:
     """Files of the tree that its projects keep as symbolic links, archived as a file holding the
     link's target (libcutils' include_outside_system, liblog's include_vndk, ...)."""
@@ -118,29 +132,42 @@ def archived_symlinks(top: Path) -> dict:
     for path in top.rglob("*"):
         if path.is_file() and not path.is_symlink() and path.stat().st_size < 256:
             text = path.read_bytes()
-            if text.startswith(b"../") and b"\n" not in text and (path.parent / text.decode()).exists():
+            if (text.startswith(b"../") and b"\n" not in text and
+                    in_checkout(path.parent / text.decode()).exists()):
                 found[path] = text.decode()
     return found
 
 
 def link_tree(source: Path, dest: Path, links: dict) -> None:
-    """dest mirrors source: a symbolic link to it, or, where archived links lie beneath, a
-    directory of links to its entries with those links restored."""
+    """dest mirrors source: a symbolic link to it, or, where links lie beneath (archived ones, or
+    ones the subset lacks), a directory of links to its entries with those links made."""
+    beneath = [link for link in links if link.is_relative_to(source) and link != source]
     if source in links:
         dest.symlink_to(links[source])
-    elif not source.is_dir() or not any(link.is_relative_to(source) for link in links):
+    elif not beneath:
         dest.symlink_to(source)
     else:
         dest.mkdir()
-        for entry in source.iterdir():
-            link_tree(entry, dest / entry.name, links)
+        names = {entry.name for entry in source.iterdir()} if source.is_dir() else set()
+        names |= {link.relative_to(source).parts[0] for link in beneath}
+        for name in sorted(names):
+            link_tree(source / name, dest / name, links)
 
 
 def make_tree(api_levels: dict) -> None:
-    projects = ("bionic", "external", "frameworks", "system")
+    projects = ("bionic", "build", "external", "frameworks", "system")
     links = {p: t for d in projects for p, t in archived_symlinks(AOSP / d).items()}
+    links.update({AOSP / link: target for link, target in CHECKOUT_LINKS.items()})
+    places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk",
+              "defaults/cc/common/libunwind.a": SCRATCH / "prebuilts/libunwind.a",
+              "prebuilts/clang/host/linux-x86/libunwind-exported.a":
+                  SCRATCH / "prebuilts/libunwind-exported.a"}
+    for name in RUNTIMES:  # as the clang prebuilts name them for arm64
+        stem, kind = name.rsplit(".", 1)
+        places[f"defaults/cc/common/{stem}-aarch64-android.{kind}"] = SCRATCH / "prebuilts" / name
     stamp = TREE / "out/tree.stamp"
-    state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links)), RUNTIMES])
+    state = json.dumps([str(AOSP), str(ROOT), sorted(map(str, links)),
+                        sorted((rel, str(target)) for rel, target in places.items())])
     if not stamp.exists() or stamp.read_text() != state:
         for entry in TREE.glob("*"):
             if entry.name != "out":
@@ -148,10 +175,6 @@ def make_tree(api_levels: dict) -> None:
         (TREE / "out").mkdir(parents=True, exist_ok=True)
         for project in projects:
             link_tree(AOSP / project, TREE / project, links)
-        places = {PROJECT.rstrip("/"): ROOT, NDK_GEN: SCRATCH / "ndk"}
-        for name in RUNTIMES:  # as the clang prebuilts name them for arm64
-            stem, kind = name.rsplit(".", 1)
-            places[f"defaults/cc/common/{stem}-aarch64-android.{kind}"] = SCRATCH / "prebuilts" / name
         for rel, target in places.items():
             (TREE / rel).parent.mkdir(parents=True, exist_ok=True)
             (TREE / rel).unlink(missing_ok=True)
@@ -170,11 +193,10 @@ def statement(action: dict) -> list:
         args["ccCmd"] = tool(args["ccCmd"])
     if "ldCmd" in args:
         args["ldCmd"] = tool(args["ldCmd"])
+    if rule in runtime_ninja.RULE_NAMES:
+        args = runtime_ninja.prepare(action, TREE)
     inputs = action["Inputs"]
     implicits = [p for p in action["Implicits"] or [] if not p.endswith(".toc")]
-    if rule == "ld" and action["Module"] in VNDK:
-        args["ldFlags"] = args["ldFlags"].replace("-Wl,--no-undefined ", "")
-        args["libFlags"] = " ".join(f for f in args["libFlags"].split() if not f.startswith(ABSENT))
     if rule == "ld":  # the libraries it links, in place of their tables of contents
         implicits += [f for f in args["libFlags"].split() if f.endswith((".so", ".a"))]
     if rule == "strip":  # the project's outputs are stripped, the platform's libraries reduced
@@ -189,10 +211,11 @@ def statement(action: dict) -> list:
 
 def write_ninja() -> tuple:
     data = json.loads((SCRATCH / "actions.json").read_text())
+    runtime = runtime_ninja.load(SCRATCH)
     make_tree(data["ApiLevels"])
-    lines = [f"builddir = out", f"aosp = {AOSP}", RULES]
+    lines = [f"builddir = out", f"aosp = {AOSP}", RULES, runtime_ninja.RULES]
     outputs, compiled, linked = set(), [], []
-    for action in data["Actions"]:
+    for action in data["Actions"] + (runtime["Actions"] if runtime else []):
         out = action["Outputs"][0]
         if out in outputs or action["Module"].startswith("libclang_rt."):  # runtimes: below
             continue
@@ -202,6 +225,10 @@ def write_ninja() -> tuple:
             (compiled if action["Rule"] == "cc" else linked).append(out)
     lines += runtime_statements(data, outputs)
     lines += [f"build compile: phony {' '.join(compiled)}", f"build link: phony {' '.join(linked)}"]
+    headers = runtime_ninja.headers(runtime) if runtime else []
+    lines.append(f"build headers: phony {' '.join(headers)}")
+    if runtime:
+        lines.append(f"build runtime: phony {' '.join(runtime_ninja.targets(runtime))}")
     path = TREE / "out/build.ninja"
     text = "\n".join(lines) + "\n"
     if not path.exists() or path.read_text() != text:
@@ -221,25 +248,16 @@ def run_ninja(target: str) -> int:
         print("\n".join([line for line in lines if re.search(
             r": (error|warning|fatal error):|errors generated|^ld\.lld|^>>> ", line)] +
             [line for line in lines if line.startswith(("FAILED", "ninja: error"))]), file=sys.stderr)
-        hints(done.stdout)
     return done.returncode
-
-
-def hints(output: str) -> None:
-    """What a failure whose cause this check's tree subset hides means."""
-    if re.search(r"undefined symbol: (vtable for |typeinfo for )?android::base::", output):
-        print("link: android::base is libbase's, which this check has only as an empty stand-in"
-              " (its sources are not in AOSP_SRC), so a use of it fails here even with libbase in"
-              " shared_libs: use the C library or libutils instead, or check the change with m in a"
-              " full tree", file=sys.stderr)
 
 
 def main() -> int:
     step = sys.argv[1]
     compiled, linked = write_ninja()
-    status = run_ninja(step)
-    count = len(compiled) if step == "compile" else len(linked)
-    print(f"{step}: {count} {'sources' if step == 'compile' else 'outputs'} for the device")
+    status = run_ninja("headers") or run_ninja(step)
+    count = {"compile": len(compiled), "link": len(linked)}.get(step)
+    if count is not None:
+        print(f"{step}: {count} {'sources' if step == 'compile' else 'outputs'} for the device")
     return status
 
 

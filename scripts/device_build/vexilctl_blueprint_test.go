@@ -24,81 +24,17 @@ import (
 
 const vexilctlDir = "vendor/kest/vexilctl"
 
-// The platform modules a vendor module builds against, taken by name from the tree's own
-// Android.bp files: their exported headers, their vendor variants (LLNDK stubs, VNDK libraries)
-// and, for the libraries built here, their sources and flags.
+// Platform modules taken by name from the tree's own Android.bp files (the runtime's files are
+// read whole: runtime_blueprint_test.go).
 var vexilctlTreeModules = map[string][]string{
-	"bionic/libc/Android.bp": {"crt_and_memtag_defaults", "crt_defaults", "crt_so_defaults",
-		"crtbrand", "crtbegin_so", "crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
-		"libc_llndk_headers"},
-	"system/logging/liblog/Android.bp": {"liblog_headers", "liblog"},
-	"system/core/libcutils/Android.bp": {"libcutils_defaults", "libcutils_headers",
-		"libcutils_sockets", "libcutils"},
-	"system/core/libutils/Android.bp": {"libutils_headers", "libutils_defaults", "libutils"},
-	"system/libbase/Android.bp":       {"libbase_headers"},
-	"external/libcxx/Android.bp":      {"libc++ defaults", "libc++_static", "libc++"},
-	"external/libcxxabi/Android.bp":   {"libc++abi_defaults", "libc++abi", "libc++demangle"},
 	"external/googletest/googletest/Android.bp": {"libgtest_defaults", "libgtest_host_defaults",
-		"libgtest", "libgtest_main"},
+		"libgtest", "libgtest_main", "libgtest_prod_headers"},
 }
 
 // Platform modules whose Android.bp is not in the tree subset, declared as the tree declares
 // them as far as vendor code sees them (exported headers, LLNDK or VNDK), available wherever the
 // tree's modules that use them are.
 var vexilctlPlatformMocks = map[string]string{
-	// bionic's libraries as LLNDK (the fixture's build properties, the tree's symbol files and
-	// exported headers). A tree exports libc's include/ through the versioner, which turns
-	// __INTRODUCED_IN into #if guards; as they are, the same macros become availability
-	// attributes, which declare the same functions at API 33.
-	"bionic/libc/Android.bp": bionicLibrary("libc", `
-	export_include_dirs: ["include"],
-	llndk: {
-		symbol_file: "libc.map.txt",
-		export_headers_as_system: true,
-		export_llndk_headers: ["libc_llndk_headers"],
-	},`),
-	"bionic/libm/Android.bp":  bionicLibrary("libm", `llndk: { symbol_file: "libm.map.txt" },`),
-	"bionic/libdl/Android.bp": bionicLibrary("libdl", `llndk: { symbol_file: "libdl.map.txt" },`),
-	// libbinder_ndk's jni_headers re-export is left out: nothing here includes <jni.h>.
-	"frameworks/native/libs/binder/ndk/Android.bp": `
-cc_library {
-	name: "libbinder_ndk",
-	defaults: ["vexilctl_platform"],
-	llndk: {
-		symbol_file: "libbinder_ndk.map.txt",
-	},
-	export_include_dirs: ["include_cpp", "include_ndk", "include_platform"],
-	stubs: {
-		symbol_file: "libbinder_ndk.map.txt",
-		versions: ["29", "30"],
-	},
-}`,
-	// libbase's sources are not in the subset; libcutils and libutils link it.
-	"system/libbase/mock/Android.bp": `
-cc_library {
-	name: "libbase",
-	defaults: ["vexilctl_platform"],
-	vndk: {
-		enabled: true,
-		support_system_process: true,
-	},
-	header_libs: ["libbase_headers"],
-	export_header_lib_headers: ["libbase_headers"],
-}`,
-	"system/core/libvndksupport/Android.bp": `
-cc_library {
-	name: "libvndksupport",
-	defaults: ["vexilctl_platform"],
-	llndk: {
-		symbol_file: "libvndksupport.map.txt",
-	},
-	export_include_dirs: ["include"],
-}`,
-	"external/fmtlib/Android.bp": `
-cc_library_headers {
-	name: "fmtlib_headers",
-	defaults: ["vexilctl_platform"],
-}`,
 	"system/core/libprocessgroup/Android.bp": headerLibrary("libprocessgroup_headers"),
 	"system/core/libsystem/Android.bp":       headerLibrary("libsystem_headers"),
 	"system/core/libbacktrace/Android.bp":    headerLibrary("libbacktrace_headers"),
@@ -114,24 +50,6 @@ cc_defaults {
 }`,
 }
 
-func bionicLibrary(name, properties string) string {
-	return `
-cc_library {
-	name: "` + name + `",
-	defaults: ["linux_bionic_supported"],
-	no_libcrt: true,
-	nocrt: true,
-	stl: "none",
-	system_shared_libs: [],
-	recovery_available: true,
-	stubs: {
-		symbol_file: "` + name + `.map.txt",
-		versions: ["29", "current"],
-	},
-	` + properties + `
-}`
-}
-
 func headerLibrary(name string) string {
 	return `cc_library_headers { name: "` + name +
 		`", defaults: ["vexilctl_platform"], export_include_dirs: ["include"] }`
@@ -143,7 +61,8 @@ var vexilctlReplacedMocks = map[string][]string{
 	"Android.bp": {"libbinder_ndk", "libcutils", "liblog", "libutils"},
 	cc.DefaultCcCommonTestModulesDir + "Android.bp": {"libc", "libm", "libdl",
 		"libc++", "libc++_static", "libc++demangle", "crt_defaults", "crtbrand", "crtbegin_so",
-		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android"},
+		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
+		"note_memtag_heap_async", "note_memtag_heap_sync"},
 }
 
 // What the project's build files use that neither the tree subset nor the fixture has.
@@ -219,15 +138,12 @@ func vexilctlPlatform(t *testing.T, aosp string) android.FixturePreparer {
 				return !strings.HasPrefix(m.Type, "cc_") || !android.InList(moduleName(m), names)
 			}))
 		}
-		// The fixture's mock memtag notes have no vendor variant, which a vendor cc_test needs,
-		// and its toolchain prebuilts all name their directory as their file: each gets a file
-		// of its own, named as the clang prebuilts name them for arm64.
+		// The fixture's toolchain prebuilts all name their directory as their file: each gets a
+		// file of its own, named as the clang prebuilts name them for arm64.
 		path := cc.DefaultCcCommonTestModulesDir + "Android.bp"
 		fs[path] = []byte(selectModules(t, path, fs[path], func(m *parser.Module) bool {
 			name := moduleName(m)
 			switch {
-			case strings.HasPrefix(name, "note_memtag_heap_"):
-				setProperty(m, "vendor_available", &parser.Bool{Value: true})
 			case name == "toolchain_libs_defaults":
 				m.RemoveProperty("srcs")
 			case strings.HasPrefix(m.Type, "cc_prebuilt_library_"):
@@ -420,6 +336,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	result := _testAidl(t, vexilctlMockModules,
 		withFiles(vexilctlFiles(t, root)),
 		vexilctlPlatform(t, aosp),
+		runtimePlatform(t, aosp),
 		// product_variables (crtbrand's PLATFORM_SDK_VERSION).
 		android.PrepareForTestWithVariables,
 		// An Android 13 release device: its VNDK version is the platform's, 33.
@@ -490,6 +407,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 		}
 	}
 
+	writeRuntime(t, ctx)
 	if out := os.Getenv("VEXILCTL_ACTIONS"); out != "" {
 		data, _ := json.MarshalIndent(struct {
 			ApiLevels map[string]int
@@ -523,8 +441,7 @@ func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingMo
 		golden = filepath.Join("/", golden)
 	}
 	installDir := "/" + filepath.Dir(strings.TrimPrefix(installs[0], "target/product/test_device/"))
-	entries := android.AndroidMkEntriesForTest(t, ctx, m.Module())
-	data := entries[0].EntryMap["LOCAL_TEST_DATA"]
+	data := testData(t, ctx, m.Module())
 	if len(data) == 0 {
 		t.Errorf("vexilctl_unit_tests installs no golden files")
 	}
