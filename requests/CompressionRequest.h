@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -11,7 +12,7 @@ namespace tarn {
 // wcn's stored logs, one field of the co-processor's settings record.
 class CompressionRequest : public Request {
   public:
-    enum CompressionCmdType {
+    enum CompressionCmdType : int32_t {
         CMD_SET_NONE = 0,
         CMD_SET_LZ4 = 1,
         CMD_QUERY = 2,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -36,7 +37,8 @@ class GetMipiLog : public Request {
 // "setlogpscfg user|debug": the protocol-stack log module's profile.
 class SetLogPsCfg : public Request {
   public:
-    enum PsCfgOpertType {
+    // Sent to the service as an int32; a value outside the two is refused before the call.
+    enum PsCfgOpertType : int32_t {
         PS_CFG_USER = 0,
         PS_CFG_DEBUG = 1,
     };

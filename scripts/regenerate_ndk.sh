@@ -3,4 +3,4 @@
 # Android 13 tree in AOSP_SRC (default ../shared/aosp-a13), after a change of the frozen API.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-NDK_UPDATE=1 exec bash scripts/check_device_build.sh aidl_compile
+NDK_UPDATE=1 exec bash scripts/check_device_build.sh soong aidl_compile

@@ -15,7 +15,6 @@ bash scripts/check_format.sh || status=1
 bash scripts/check_blueprints.sh || status=1
 bash scripts/check_device_build.sh || status=1
 bash scripts/check_footprint.sh || status=1
-bash scripts/check_arm64.sh || status=1
 bash scripts/check_tidy.sh || status=1
 bash scripts/check_memcheck.sh || status=1
 bash scripts/check_sanitizers.sh || status=1

@@ -8,15 +8,13 @@ namespace tarnmodem {
 namespace {
 
 const option kOptions[] = {
-    {"state", required_argument, nullptr, 's'},
-    {"journal", required_argument, nullptr, 'j'},
-    {"log", required_argument, nullptr, 'l'},
-    {"help", no_argument, nullptr, 'h'},
-    {nullptr, 0, nullptr, 0},
+    {"state", required_argument, nullptr, 's'}, {"journal", required_argument, nullptr, 'j'},
+    {"log", required_argument, nullptr, 'l'},   {"logd", required_argument, nullptr, 'd'},
+    {"help", no_argument, nullptr, 'h'},        {nullptr, 0, nullptr, 0},
 };
 // The field each option with a file name fills, in the order of kOptions.
 std::string CommandLine::*const kPaths[] = {&CommandLine::state_path, &CommandLine::journal_path,
-                                            &CommandLine::log_path};
+                                            &CommandLine::log_path, &CommandLine::logd_path};
 
 }  // namespace
 

@@ -36,12 +36,29 @@ Json decode_log_datagram(const unsigned char* data, size_t len) {
     return Json{{"prio", data[0]}, {"tag", std::move(tag)}, {"msg", std::move(msg)}};
 }
 
+Json decode_logd_datagram(const unsigned char* data, size_t len) {
+    // android_log_header_t: uint8_t id, uint16_t tid, uint32_t tv_sec, uint32_t tv_nsec, packed.
+    constexpr size_t kHeader = 11;
+    if (len <= kHeader) return nullptr;
+    Json line = decode_log_datagram(data + kHeader, len - kHeader);
+    line["buffer"] = data[0];
+    return line;
+}
+
 LogSink::~LogSink() {
     stop();
 }
 
 bool LogSink::start(const std::string& name) {
-    socket_ = bind_abstract_socket(name, SOCK_DGRAM);
+    return start_with(bind_abstract_socket(name, SOCK_DGRAM));
+}
+
+bool LogSink::start_at(const std::string& path) {
+    return start_with(bind_socket_at(path, SOCK_DGRAM));
+}
+
+bool LogSink::start_with(int socket) {
+    socket_ = socket;
     if (socket_ < 0) return false;
     buffer_.resize(kMaxDatagram);
     wake_ = eventfd(0, EFD_CLOEXEC);
@@ -84,7 +101,7 @@ bool LogSink::drain() {
             out_.write_text(lines);
             return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
         }
-        Json line = decode_log_datagram(buffer_.data(), static_cast<size_t>(n));
+        Json line = decode_(buffer_.data(), static_cast<size_t>(n));
         if (!line.is_null()) lines += to_json_line(line) + '\n';
         if (lines.size() >= kBatchBytes) {
             out_.write_text(lines);

@@ -111,6 +111,10 @@ int main(int argc, char** argv) {
 
     LogSink log_sink(log_file);
     if (!log_sink.start(kHostLogSinkName)) fail(kCannotServe, with_errno("cannot bind log sink"));
+    LogSink logd_sink(log_file, decode_logd_datagram);
+    if (!options.logd_path.empty() && !logd_sink.start_at(options.logd_path)) {
+        fail(kCannotServe, with_errno("cannot bind " + options.logd_path));
+    }
     VexilServer vexilserver(config.vexilserver.replies, journal, [&state](const std::string& line) {
         return state->with([&](DeviceState& s) { return answer_vexilserver_request(line, s); });
     });
@@ -132,6 +136,7 @@ int main(int argc, char** argv) {
     }
     service.stop();
     log_sink.stop();  // records the lines already sent
+    logd_sink.stop();
     // Socket threads may be inside a call: leave without running destructors.
     _exit(0);
 }

@@ -3,7 +3,9 @@
 Arm ELF file with the Android note of API level 33; the executables are PIE with the interpreter
 /system/bin/linker64; and every symbol each one imports is defined by one of the libraries it
 needs, as linked (a weak reference that no library defines links, and fails on the device).
-Writes the imports, per output and library, to build/device/imports.txt."""
+Every module it expects must have been linked and checked: the tool, its unit tests, the
+generated library and each cc_fuzz module of the project's Android.bp files. Writes the imports,
+per output and library, to build/device/imports.txt."""
 
 import json
 import os
@@ -14,9 +16,10 @@ from collections import defaultdict
 from functools import cache
 from pathlib import Path
 
-SCRATCH = Path(os.environ["SCRATCH"])
+ROOT, SCRATCH = Path(os.environ["ROOT"]), Path(os.environ["SCRATCH"])
 TREE = SCRATCH / "tree"
-LINKED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
+PROJECT_OUT = "out/soong/.intermediates/vendor/kest/vexilctl/"
+EXPECTED = ("vexilctl", "vexilctl_unit_tests", "vendor.kest.hardware.vexil_svc-V1-ndk")
 API_LEVEL = 33
 SYMBOL = re.compile(r"^\s*\d+: \S+\s+\d+ \w+\s+(\w+)\s+\w+\s+(\w+) (\S+)$")
 
@@ -71,23 +74,55 @@ def check(path: Path, executable: bool, libraries: dict, report: list) -> list:
     return errors
 
 
+def expected() -> list:
+    """The modules to check: the fixed ones and every cc_fuzz of the project's Android.bp files
+    (bpfmt puts a module's name first)."""
+    fuzzers = []
+    for top, dirs, files in os.walk(ROOT):
+        dirs[:] = sorted(d for d in dirs if not (top == str(ROOT) and d in ("build", ".git")) and d != "node_modules")
+        if "Android.bp" in files:
+            text = Path(top, "Android.bp").read_text()
+            fuzzers += re.findall(r'^cc_fuzz \{\s*name: "([^"]+)"', text, re.M)
+    return list(EXPECTED) + fuzzers
+
+
+@cache
+def soname(path: Path) -> str:
+    m = re.search(r"\(SONAME\)\s+Library soname: \[(\S+)\]", readelf(path, "-d"))
+    return m.group(1) if m else path.name
+
+
 def main() -> int:
     actions = json.loads((SCRATCH / "actions.json").read_text())["Actions"]
-    failed, summary, report = 0, [], []
+    failed, summary, report, checked = 0, [], [], set()
     for action in actions:
-        if action["Rule"] != "ld" or action["Module"] not in LINKED:
+        if action["Rule"] != "ld" or not action["Outputs"][0].startswith(PROJECT_OUT):
             continue
-        libraries = {Path(f).name: dynamic_symbols(TREE / f)[1]
+        module, out = action["Module"], TREE / action["Outputs"][0]
+        if not out.exists():
+            print(f"check_linked: {module}: {action['Outputs'][0]} was not linked", file=sys.stderr)
+            failed += 1
+            continue
+        libraries = {soname(TREE / f): dynamic_symbols(TREE / f)[1]
                      for f in action["Args"]["libFlags"].split() if f.endswith(".so")}
         before = len(report)
-        errors = check(TREE / action["Outputs"][0], "-pie" in action["Args"]["ldFlags"].split(),
-                       libraries, report)
-        summary.append(report[before])
+        errors = check(out, "-pie" in action["Args"]["ldFlags"].split(), libraries, report)
+        variant = " (its fuzzers' variant)" if action["Variant"].endswith("_shared_fuzzer") else ""
+        summary.append(f"{module}{variant}: " + report[before].split(": ", 1)[1])
         for error in errors:
-            print(f"check_linked: {action['Module']}: {error}", file=sys.stderr)
+            print(f"check_linked: {module}: {error}", file=sys.stderr)
         failed += bool(errors)
+        checked.add(module)
+    for module in expected():
+        if module not in checked:
+            print(f"check_linked: {module}: not linked and checked: Soong's analysis has no link of it"
+                  " (build/device/actions.json; run the soong, clang_compile and link steps)",
+                  file=sys.stderr)
+            failed += 1
     (SCRATCH / "imports.txt").write_text("\n".join(report) + "\n")
     print("\n".join(f"check_linked: {line}" for line in summary))
+    print(f"check_linked: {len(checked)} of the {len(expected())} modules expected, all checked"
+          if not failed else f"check_linked: FAILED ({failed})")
     return 1 if failed else 0
 
 

@@ -11,7 +11,10 @@
 #  - A copy of sepolicy/ with one rule that breaks a neverallow must fail to build.
 #  - sepolicy_tests.py and treble_sepolicy_tests.py (coredomain, /data types, violator
 #    attributes) on each built policy, with libsepolwrap built from the tree against Debian's
-#    libsepol; the types in sepolicy/'s contexts files must be declared.
+#    libsepol; the tree's checkfc on the vendor file_contexts and service_contexts, as the
+#    build's contexts tests run it (each type has the attributes its kind needs).
+#  - The names the tool's code uses, tied to the policy (code_policy.py): the service instance it
+#    asks for is one service_contexts labels, the socket it opens one the policy lets it connect.
 #
 # Usage: [AOSP_SRC=DIR] bash scripts/device_build/sepolicy.sh [SEPOLICY_DIR]
 # AOSP_SRC defaults to ../shared/aosp-a13 beside the project; scratch files go to
@@ -34,11 +37,19 @@ mkdir -p "$work"
 cd "$AOSP_SRC"
 
 # Everything the step reads; a policy that passed is not built again until one of them changes.
-stamp=$( (cat "$root/scripts/device_build/sepolicy.sh" && find "$policy_dir" "$sep" -type f -print0 | LC_ALL=C sort -z | xargs -0 sha1sum) |
+# The names the tool's code uses against the policy the device loads (run every time: the code
+# changes more often than the policy).
+code_policy() {
+    ROOT=$root python3 "$root/scripts/device_build/code_policy.py" "$work/user/policy" \
+        "$work/vendor_service_contexts" "$work/tests" tarnmodem vexilserver SOCK_STREAM
+}
+stamp=$( (cat "$root/scripts/device_build/sepolicy.sh" &&
+    find "$policy_dir" "$sep" -type f -print0 | LC_ALL=C sort -z | xargs -0 sha1sum) |
     sha1sum | cut -c1-40)
 if [ "$(cat "$work/passed" 2>/dev/null)" = "$stamp" ]; then
-    echo "device_build/sepolicy: ok (unchanged since it last passed)"
-    exit 0
+    echo "device_build/sepolicy: policy unchanged since it last passed"
+    code_policy
+    exit
 fi
 rm -f "$work/passed"
 
@@ -51,7 +62,8 @@ status=0
 
 # The daemon's own policy, which is not part of this project: what sepolicy/ relies on it to
 # declare. tarnmodem is started by init from /vendor/bin, serves the log-control service and
-# listens on the abstract socket vexilserver; its data lives under /data/wyrm.
+# listens on the abstract stream socket vexilserver (code_policy above); its data lives under
+# /data/wyrm.
 daemon=$work/tarnmodem
 mkdir -p "$daemon"
 cat >"$daemon/tarnmodem.te" <<'EOF'
@@ -128,6 +140,15 @@ fi
 m4 --fatal-warnings -s $sep/private/file_contexts >"$work/plat_file_contexts"
 m4 --fatal-warnings -s $sep/vendor/file_contexts "$policy_dir/file_contexts" \
     "$daemon/file_contexts" >"$work/vendor_file_contexts"
+m4 --fatal-warnings -s "$policy_dir/service_contexts" $sep/reqd_mask/service_contexts \
+    >"$work/vendor_service_contexts"
+# The tree's checkfc, against Debian's libselinux, which is built without Android's reader of
+# service_contexts: its file_contexts reader takes those lines (a name, a context) instead.
+if [ ! -x "$tests/checkfc" ] || [ $sep/tools/checkfc.c -nt "$tests/checkfc" ]; then
+    printf '#include <selinux/label.h>\n#undef SELABEL_CTX_ANDROID_SERVICE\n#define SELABEL_CTX_ANDROID_SERVICE SELABEL_CTX_FILE\n' \
+        >"$tests/checkfc_service.h"
+    gcc -O1 -include "$tests/checkfc_service.h" -o "$tests/checkfc" $sep/tools/checkfc.c -lselinux -l:libsepol.a
+fi
 fc=(-f "$work/plat_file_contexts" -f "$work/vendor_file_contexts")
 # The tests match every file_contexts path against prefixes by compiling each of its leading
 # parts as a regular expression, most of them several times over and many invalid: run them with
@@ -175,6 +196,16 @@ check_variant() {
         show_log "$out/log"
         return 1
     fi
+    # The build's vendor_file_contexts_test and vendor_service_contexts_test.
+    if result=$("$tests/checkfc" "$out/policy" "$work/vendor_file_contexts" 2>&1 &&
+        "$tests/checkfc" -s "$out/policy" "$work/vendor_service_contexts" 2>&1); then
+        say "$variant: checkfc passes file_contexts and service_contexts"
+    else
+        fail "$variant: checkfc: $(head -1 <<<"$result") (a type in file_contexts needs file_type," \
+            "dev_type or fs_type, one in service_contexts service_manager_type: give it the" \
+            "attribute where it is declared)"
+        indent <<<"$result"
+    fi
     if result=$(python3 "$tests/run.py" "$tests/sepolicy_tests.py" "${fc[@]}" -p "$out/policy" 2>&1); then
         say "$variant: sepolicy_tests pass"
     else
@@ -196,7 +227,7 @@ check_variant() {
 variants=(user userdebug)
 pids=()
 for variant in "${variants[@]}"; do
-    check_variant "$variant" >"$work/$variant.report" 2>&1 &
+    check_variant "$variant" >"$work/$variant.report" 2>"$work/$variant.errors" &
     pids+=($!)
 done
 trap 'kill "${pids[@]}" 2>/dev/null || true' EXIT
@@ -226,25 +257,14 @@ else
 fi
 
 for i in "${!variants[@]}"; do
-    if wait "${pids[$i]}"; then
-        cat "$work/${variants[$i]}.report"
-    else
-        cat "$work/${variants[$i]}.report" >&2
-        status=1
-    fi
+    wait "${pids[$i]}" || status=1
+    cat "$work/${variants[$i]}.report"
+    cat "$work/${variants[$i]}.errors" >&2
 done
 pids=()
 
-# Every type that sepolicy/'s contexts files name is declared in the policy.
-if [ -f "$work/user/policy.conf" ]; then
-    declared=$(grep -oE '^\s*type [a-z0-9_]+' "$work/user/policy.conf" | awk '{print $2}' | sort -u)
-    for contexts in file_contexts service_contexts; do
-        while read -r type; do
-            grep -qx "$type" <<<"$declared" || fail "$contexts names undeclared type $type"
-        done < <(grep -v '^\s*#' "$policy_dir/$contexts" | grep -oE 'u:object_r:[a-z0-9_]+:s0' |
-            cut -d: -f3)
-    done
+[ $status -eq 0 ] && say "policy ok" && echo "$stamp" >"$work/passed"
+if [ -f "$work/user/policy" ]; then
+    code_policy || status=1
 fi
-
-[ $status -eq 0 ] && say "ok" && echo "$stamp" >"$work/passed"
 exit $status

@@ -24,81 +24,17 @@ import (
 
 const vexilctlDir = "vendor/kest/vexilctl"
 
-// The platform modules a vendor module builds against, taken by name from the tree's own
-// Android.bp files: their exported headers, their vendor variants (LLNDK stubs, VNDK libraries)
-// and, for the libraries built here, their sources and flags.
+// Platform modules taken by name from the tree's own Android.bp files (the runtime's files are
+// read whole: runtime_blueprint_test.go).
 var vexilctlTreeModules = map[string][]string{
-	"bionic/libc/Android.bp": {"crt_and_memtag_defaults", "crt_defaults", "crt_so_defaults",
-		"crtbrand", "crtbegin_so", "crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
-		"libc_llndk_headers"},
-	"system/logging/liblog/Android.bp": {"liblog_headers", "liblog"},
-	"system/core/libcutils/Android.bp": {"libcutils_defaults", "libcutils_headers",
-		"libcutils_sockets", "libcutils"},
-	"system/core/libutils/Android.bp": {"libutils_headers", "libutils_defaults", "libutils"},
-	"system/libbase/Android.bp":       {"libbase_headers"},
-	"external/libcxx/Android.bp":      {"libc++ defaults", "libc++_static", "libc++"},
-	"external/libcxxabi/Android.bp":   {"libc++abi_defaults", "libc++abi", "libc++demangle"},
 	"external/googletest/googletest/Android.bp": {"libgtest_defaults", "libgtest_host_defaults",
-		"libgtest", "libgtest_main"},
+		"libgtest", "libgtest_main", "libgtest_prod_headers"},
 }
 
 // Platform modules whose Android.bp is not in the tree subset, declared as the tree declares
 // them as far as vendor code sees them (exported headers, LLNDK or VNDK), available wherever the
 // tree's modules that use them are.
 var vexilctlPlatformMocks = map[string]string{
-	// bionic's libraries as LLNDK (the fixture's build properties, the tree's symbol files and
-	// exported headers). A tree exports libc's include/ through the versioner, which turns
-	// __INTRODUCED_IN into #if guards; as they are, the same macros become availability
-	// attributes, which declare the same functions at API 33.
-	"bionic/libc/Android.bp": bionicLibrary("libc", `
-	export_include_dirs: ["include"],
-	llndk: {
-		symbol_file: "libc.map.txt",
-		export_headers_as_system: true,
-		export_llndk_headers: ["libc_llndk_headers"],
-	},`),
-	"bionic/libm/Android.bp":  bionicLibrary("libm", `llndk: { symbol_file: "libm.map.txt" },`),
-	"bionic/libdl/Android.bp": bionicLibrary("libdl", `llndk: { symbol_file: "libdl.map.txt" },`),
-	// libbinder_ndk's jni_headers re-export is left out: nothing here includes <jni.h>.
-	"frameworks/native/libs/binder/ndk/Android.bp": `
-cc_library {
-	name: "libbinder_ndk",
-	defaults: ["vexilctl_platform"],
-	llndk: {
-		symbol_file: "libbinder_ndk.map.txt",
-	},
-	export_include_dirs: ["include_cpp", "include_ndk", "include_platform"],
-	stubs: {
-		symbol_file: "libbinder_ndk.map.txt",
-		versions: ["29", "30"],
-	},
-}`,
-	// libbase's sources are not in the subset; libcutils and libutils link it.
-	"system/libbase/mock/Android.bp": `
-cc_library {
-	name: "libbase",
-	defaults: ["vexilctl_platform"],
-	vndk: {
-		enabled: true,
-		support_system_process: true,
-	},
-	header_libs: ["libbase_headers"],
-	export_header_lib_headers: ["libbase_headers"],
-}`,
-	"system/core/libvndksupport/Android.bp": `
-cc_library {
-	name: "libvndksupport",
-	defaults: ["vexilctl_platform"],
-	llndk: {
-		symbol_file: "libvndksupport.map.txt",
-	},
-	export_include_dirs: ["include"],
-}`,
-	"external/fmtlib/Android.bp": `
-cc_library_headers {
-	name: "fmtlib_headers",
-	defaults: ["vexilctl_platform"],
-}`,
 	"system/core/libprocessgroup/Android.bp": headerLibrary("libprocessgroup_headers"),
 	"system/core/libsystem/Android.bp":       headerLibrary("libsystem_headers"),
 	"system/core/libbacktrace/Android.bp":    headerLibrary("libbacktrace_headers"),
@@ -114,24 +50,6 @@ cc_defaults {
 }`,
 }
 
-func bionicLibrary(name, properties string) string {
-	return `
-cc_library {
-	name: "` + name + `",
-	defaults: ["linux_bionic_supported"],
-	no_libcrt: true,
-	nocrt: true,
-	stl: "none",
-	system_shared_libs: [],
-	recovery_available: true,
-	stubs: {
-		symbol_file: "` + name + `.map.txt",
-		versions: ["29", "current"],
-	},
-	` + properties + `
-}`
-}
-
 func headerLibrary(name string) string {
 	return `cc_library_headers { name: "` + name +
 		`", defaults: ["vexilctl_platform"], export_include_dirs: ["include"] }`
@@ -143,7 +61,8 @@ var vexilctlReplacedMocks = map[string][]string{
 	"Android.bp": {"libbinder_ndk", "libcutils", "liblog", "libutils"},
 	cc.DefaultCcCommonTestModulesDir + "Android.bp": {"libc", "libm", "libdl",
 		"libc++", "libc++_static", "libc++demangle", "crt_defaults", "crtbrand", "crtbegin_so",
-		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android"},
+		"crtend_so", "crtbegin_static", "crtbegin_dynamic", "crtend_android",
+		"note_memtag_heap_async", "note_memtag_heap_sync"},
 }
 
 // What the project's build files use that neither the tree subset nor the fixture has.
@@ -219,15 +138,12 @@ func vexilctlPlatform(t *testing.T, aosp string) android.FixturePreparer {
 				return !strings.HasPrefix(m.Type, "cc_") || !android.InList(moduleName(m), names)
 			}))
 		}
-		// The fixture's mock memtag notes have no vendor variant, which a vendor cc_test needs,
-		// and its toolchain prebuilts all name their directory as their file: each gets a file
-		// of its own, named as the clang prebuilts name them for arm64.
+		// The fixture's toolchain prebuilts all name their directory as their file: each gets a
+		// file of its own, named as the clang prebuilts name them for arm64.
 		path := cc.DefaultCcCommonTestModulesDir + "Android.bp"
 		fs[path] = []byte(selectModules(t, path, fs[path], func(m *parser.Module) bool {
 			name := moduleName(m)
 			switch {
-			case strings.HasPrefix(name, "note_memtag_heap_"):
-				setProperty(m, "vendor_available", &parser.Bool{Value: true})
 			case name == "toolchain_libs_defaults":
 				m.RemoveProperty("srcs")
 			case strings.HasPrefix(m.Type, "cc_prebuilt_library_"):
@@ -256,7 +172,7 @@ func vexilctlFiles(t *testing.T, root string) map[string][]byte {
 		}
 		rel, _ := filepath.Rel(root, path)
 		if info.IsDir() {
-			if skip[rel] {
+			if skip[rel] || info.Name() == "__pycache__" { // Python's caches beside its scripts
 				return filepath.SkipDir
 			}
 			return nil
@@ -325,6 +241,13 @@ type vexilctlAction struct {
 
 // The actions of a module variant that compile, archive, link or generate stubs.
 func moduleActions(m android.TestingModule, name, variant string) []vexilctlAction {
+	return ruleActions(m, name, variant, func(rule string) bool {
+		return android.InList(rule, []string{"cc", "ar", "ld", "partialLd", "genStubSrc", "strip"})
+	})
+}
+
+// The actions of a module variant whose rule keep accepts.
+func ruleActions(m android.TestingModule, name, variant string, keep func(rule string) bool) []vexilctlAction {
 	var actions []vexilctlAction
 	seen := map[string]bool{}
 	for _, out := range m.AllOutputs() {
@@ -337,7 +260,7 @@ func moduleActions(m android.TestingModule, name, variant string) []vexilctlActi
 		} else {
 			first = params.Outputs[0].String()
 		}
-		if seen[first] || !android.InList(rule, []string{"cc", "ar", "ld", "partialLd", "genStubSrc", "strip"}) {
+		if seen[first] || !keep(rule) {
 			continue
 		}
 		seen[first] = true
@@ -398,6 +321,13 @@ func closureActions(ctx *android.TestContext, roots []blueprint.Module) []vexilc
 	return actions
 }
 
+// What the test checks of a module of the project (each cc_fuzz at least for its variant).
+type vexilctlWanted struct {
+	variant  string
+	needs    []string // sources the module must compile
+	installs []string // install locations under the product directory
+}
+
 func TestVexilctlVendorTree(t *testing.T) {
 	root, aosp := os.Getenv("VEXILCTL_ROOT"), os.Getenv("VEXILCTL_AOSP")
 	if root == "" || aosp == "" {
@@ -406,6 +336,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	result := _testAidl(t, vexilctlMockModules,
 		withFiles(vexilctlFiles(t, root)),
 		vexilctlPlatform(t, aosp),
+		runtimePlatform(t, aosp),
 		// product_variables (crtbrand's PLATFORM_SDK_VERSION).
 		android.PrepareForTestWithVariables,
 		// An Android 13 release device: its VNDK version is the platform's, 33.
@@ -425,11 +356,7 @@ func TestVexilctlVendorTree(t *testing.T) {
 	).RunTest(t)
 	ctx := result.TestContext
 
-	wanted := map[string]struct {
-		variant  string
-		needs    []string // sources the module must compile
-		installs []string // install locations under the product directory
-	}{
+	wanted := map[string]vexilctlWanted{
 		"vexilctl": {"", []string{"front/main.cpp", "front/RequestManager.cpp"},
 			[]string{"vendor/bin/vexilctl"}},
 		"vexilctl_unit_tests": {"", []string{"tests/unit/front_usage_test.cpp"},
@@ -437,23 +364,23 @@ func TestVexilctlVendorTree(t *testing.T) {
 		"vexilctl_tool_fuzzer": {"_fuzzer", []string{"tests/fuzz/tool_fuzzer.cpp",
 			"tests/fuzz/fuzzed_device.cpp"}, nil},
 	}
+	for _, name := range vexilctlFuzzers(ctx) {
+		if _, known := wanted[name]; !known {
+			wanted[name] = vexilctlWanted{variant: "_fuzzer"}
+		}
+	}
 	names := make([]string, 0, len(wanted))
 	for name := range wanted {
 		names = append(names, name)
 	}
 	sort.Strings(names)
 	var roots []blueprint.Module
-	var actions []vexilctlAction
 	for _, name := range names {
 		want := wanted[name]
 		variant := vendorVariant(t, ctx, name, want.variant)
 		m := ctx.ModuleForTests(name, variant)
 		own := moduleActions(m, name, variant)
-		if want.variant == "_fuzzer" { // compiled only: the fuzzers' runtime is not in the tree
-			actions = append(actions, own...)
-		} else {
-			roots = append(roots, m.Module())
-		}
+		roots = append(roots, m.Module())
 		var srcs []string
 		for _, action := range own {
 			if action.Rule == "cc" && strings.HasPrefix(action.Inputs[0], vexilctlDir+"/") {
@@ -476,15 +403,18 @@ func TestVexilctlVendorTree(t *testing.T) {
 			}
 		}
 		if name == "vexilctl_unit_tests" {
-			checkGoldenData(t, ctx, m, installs)
+			checkGoldenData(t, ctx, m, root, installs)
 		}
 	}
 
+	writeRuntime(t, ctx)
 	if out := os.Getenv("VEXILCTL_ACTIONS"); out != "" {
 		data, _ := json.MarshalIndent(struct {
 			ApiLevels map[string]int
 			Actions   []vexilctlAction
-		}{android.GetApiLevelsMap(result.Config), append(actions, closureActions(ctx, roots)...)}, "", " ")
+			Aidl      []vexilctlAction
+		}{android.GetApiLevelsMap(result.Config), closureActions(ctx, roots),
+			vexilctlAidlActions(ctx)}, "", " ")
 		if err := os.WriteFile(out, data, 0o644); err != nil {
 			t.Fatal(err)
 		}
@@ -493,7 +423,8 @@ func TestVexilctlVendorTree(t *testing.T) {
 
 // Tradefed runs a gtest from /, and the cc_test's data is installed beside the binary: the golden
 // directory the unit tests are compiled with must be where the golden files land.
-func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, installs []string) {
+func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingModule, root string,
+	installs []string) {
 	golden := ""
 	for _, action := range moduleActions(m, "", "") {
 		if action.Rule != "cc" {
@@ -510,17 +441,76 @@ func checkGoldenData(t *testing.T, ctx *android.TestContext, m android.TestingMo
 		golden = filepath.Join("/", golden)
 	}
 	installDir := "/" + filepath.Dir(strings.TrimPrefix(installs[0], "target/product/test_device/"))
-	entries := android.AndroidMkEntriesForTest(t, ctx, m.Module())
-	data := entries[0].EntryMap["LOCAL_TEST_DATA"]
+	data := testData(t, ctx, m.Module())
 	if len(data) == 0 {
 		t.Errorf("vexilctl_unit_tests installs no golden files")
 	}
+	installed := map[string]bool{}
 	for _, d := range data {
 		parts := strings.Split(d, ":") // source prefix, path relative to the module, install dir
-		installed := filepath.Join(installDir, parts[1])
-		if filepath.Dir(installed) != golden {
+		file := filepath.Join(installDir, parts[1])
+		rel, err := filepath.Rel(golden, file)
+		if err != nil || strings.HasPrefix(rel, "..") {
 			t.Errorf("vexilctl_unit_tests reads its golden files from %s (GOLDEN_DIR run from /), "+
-				"but %s is installed as %s", golden, parts[1], installed)
+				"but %s is installed as %s", golden, parts[1], file)
 		}
+		installed[rel] = true
 	}
+	checkGoldenFilesInstalled(t, root, installDir, golden, installed)
+}
+
+// What the unit tests read is the golden directory, subdirectories included: each of its files
+// must be among the test's installed data.
+func checkGoldenFilesInstalled(t *testing.T, root, installDir, golden string, installed map[string]bool) {
+	dir, err := filepath.Rel(installDir, golden)
+	if err != nil || strings.HasPrefix(dir, "..") {
+		t.Errorf("vexilctl_unit_tests: GOLDEN_DIR %s is not under the test's install directory %s",
+			golden, installDir)
+		return
+	}
+	err = filepath.Walk(filepath.Join(root, dir), func(path string, info os.FileInfo, err error) error {
+		if err != nil || info.IsDir() {
+			return err
+		}
+		rel, _ := filepath.Rel(filepath.Join(root, dir), path)
+		if !installed[rel] {
+			t.Errorf("vexilctl_unit_tests does not install %s/%s, which its tests read from %s/%s: "+
+				"its data in Android.bp must reach it (\"%s/*\" stops at the directory's own "+
+				"files; \"%s/**/*\" takes subdirectories too)", dir, rel, golden, rel, dir, dir)
+		}
+		return nil
+	})
+	if err != nil {
+		t.Errorf("vexilctl_unit_tests: %v", err)
+	}
+}
+
+// Every cc_fuzz module of the project, as the analysis found them.
+func vexilctlFuzzers(ctx *android.TestContext) []string {
+	var names []string
+	ctx.VisitAllModules(func(m blueprint.Module) {
+		if ctx.ModuleType(m) == "cc_fuzz" && strings.HasPrefix(ctx.ModuleDir(m), vexilctlDir) &&
+			!android.InList(ctx.ModuleName(m), names) {
+			names = append(names, ctx.ModuleName(m))
+		}
+	})
+	sort.Strings(names)
+	return names
+}
+
+// The aidl compiler's actions for the project's aidl_interface modules: each backend's
+// generation, the API dump and the API and hash checks, with the flags Soong gives them.
+func vexilctlAidlActions(ctx *android.TestContext) []vexilctlAction {
+	var actions []vexilctlAction
+	ctx.VisitAllModules(func(m blueprint.Module) {
+		if !strings.HasPrefix(ctx.ModuleDir(m), vexilctlDir) {
+			return
+		}
+		name, variant := ctx.ModuleName(m), ctx.ModuleSubDir(m)
+		actions = append(actions, ruleActions(ctx.ModuleForTests(name, variant), name, variant,
+			func(rule string) bool {
+				return android.InList(rule, []string{"aidlCppRule", "aidlDumpApiRule", "aidlCheckApiRule"})
+			})...)
+	})
+	return actions
 }

@@ -16,6 +16,35 @@ class CaseError(Exception):
     """A case file that cannot be read; the message names file and line."""
 
 
+# A '%' that starts a conversion: flags, width, precision, length, conversion character.
+_CONVERSION = re.compile(rb"%[-+ #0-9.*'hlLqjzt]*[diouxXeEfFgGaAcCsSpnm%]")
+
+
+@dataclass(frozen=True)
+class Goldens:
+    """The golden files and the C library whose formatter the tool writes them through: each
+    holds a usage text as written, which the tool uses as the format itself."""
+    directory: Path
+    formatter: str = "glibc"  # or "bionic"
+
+    def text(self, name: str) -> bytes:
+        """The golden text as the formatter writes it. A '%' that starts no conversion (the one of
+        "percentage(%).") is written as it is by glibc and as its character alone by bionic;
+        "%%" is "%"; a conversion (which would read an argument that is not there) is refused."""
+        written, text, pos = b"", (self.directory / (name + ".txt")).read_bytes(), 0
+        while (percent := text.find(b"%", pos)) >= 0:
+            sequence = text[percent:percent + 2]
+            if len(sequence) < 2 or _CONVERSION.match(text, percent) and sequence != b"%%":
+                raise ValueError(f"golden text {name} has a conversion at byte {percent}")
+            if sequence == b"%%":
+                sequence = b"%"
+            elif self.formatter == "bionic":
+                sequence = sequence[1:]
+            written += text[pos:percent] + sequence
+            pos = percent + 2
+        return written + text[pos:]
+
+
 @dataclass
 class Matcher:
     """Expected bytes, exactly or as a regular expression over the text."""
@@ -80,7 +109,7 @@ def c_quote(data: bytes) -> str:
 _TERM = re.compile(r'\s*(?:"((?:[^"\\]|\\.)*)"|@([\w.-]+)|random\((\d+)\))(?:\s*\*\s*(\d+))?\s*')
 
 
-def parse_bytes(text: str, golden_dir: Path, seed: str) -> bytes:
+def parse_bytes(text: str, goldens: Goldens, seed: str) -> bytes:
     """Terms joined by '+'; strings take the C escapes (\\n \\t \\r \\0 \\\\ \\" \\xHH \\NNN)."""
     text, pos, value = text.strip(), 0, b""
     while True:
@@ -91,7 +120,7 @@ def parse_bytes(text: str, golden_dir: Path, seed: str) -> bytes:
         if string is not None:
             term = codecs.escape_decode(string.encode("utf-8"))[0]
         elif golden is not None:
-            term = (golden_dir / (golden + ".txt")).read_bytes()
+            term = goldens.text(golden)
         else:
             term = random.Random(seed).randbytes(int(count))
         value += term * int(times or 1)
@@ -100,10 +129,10 @@ def parse_bytes(text: str, golden_dir: Path, seed: str) -> bytes:
         pos = m.end() + 1
 
 
-def parse_matcher(text: str, golden_dir: Path, seed: str) -> Matcher:
+def parse_matcher(text: str, goldens: Goldens, seed: str) -> Matcher:
     m = re.fullmatch(r're"((?:[^"\\]|\\.)*)"', text.strip())
     if not m:
-        return Matcher(exact=parse_bytes(text, golden_dir, seed))
+        return Matcher(exact=parse_bytes(text, goldens, seed))
     return Matcher(regex=re.compile(m.group(1).replace('\\"', '"')).pattern)
 
 
@@ -116,9 +145,9 @@ def _journal(entries: list) -> list:
     return [full(e) for e in json.loads(entries)]
 
 
-def _directive(case: Case, key: str, value: str, golden_dir: Path, seed: str, line: int):
+def _directive(case: Case, key: str, value: str, goldens: Goldens, seed: str, line: int):
     def matcher():
-        return parse_matcher(value, golden_dir, seed)
+        return parse_matcher(value, goldens, seed)
     if key == "state":
         json.loads(value)
         case.state = value
@@ -134,8 +163,8 @@ def _directive(case: Case, key: str, value: str, golden_dir: Path, seed: str, li
         if target not in RAW_TARGETS:
             raise ValueError(f"raw target must be one of {', '.join(RAW_TARGETS)}")
         case.raw.append(RawClient(target, None if payload.strip() == "connect-leave" else
-                                  parse_bytes(payload, golden_dir, seed), parse_matcher(
-                                      expect, golden_dir, seed) if arrow else None, line, hold))
+                                  parse_bytes(payload, goldens, seed), parse_matcher(
+                                      expect, goldens, seed) if arrow else None, line, hold))
     elif key in ("stdout", "stderr", "emulator-stderr"):
         setattr(case, key.replace("-", "_"), matcher())
     elif key in ("exit", "timeout", "emulator-exit"):
@@ -151,12 +180,12 @@ def _directive(case: Case, key: str, value: str, golden_dir: Path, seed: str, li
     elif key == "log-exact":
         case.log_exact = True
     elif key in sandbox.DIRECTIVES:
-        sandbox.parse_directive(case, key, value, golden_dir, seed)
+        sandbox.parse_directive(case, key, value, goldens, seed)
     else:
         raise ValueError(f"unknown directive '{key} {value}'")
 
 
-def parse_file(path: Path, golden_dir: Path, text: Optional[str] = None) -> List[Case]:
+def parse_file(path: Path, goldens: Goldens, text: Optional[str] = None) -> List[Case]:
     """The cases of a file (or of text, named path): `case NAME | directive | ...`, continued on
     lines that begin with `| `."""
     cases: List[Case] = []
@@ -172,7 +201,7 @@ def parse_file(path: Path, golden_dir: Path, text: Optional[str] = None) -> List
                 key, _, value = cell.strip().partition(" ")
                 if key != "case":
                     seed = f"{path.name}:{cases[-1].name}:{number}"
-                    _directive(cases[-1], key, value.strip(), golden_dir, seed, number)
+                    _directive(cases[-1], key, value.strip(), goldens, seed, number)
                 elif re.fullmatch(r"[\w.-]+", value) and value not in (c.name for c in cases):
                     cases.append(Case(name=value, path=str(path), line=number))
                 else:

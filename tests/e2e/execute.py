@@ -78,6 +78,10 @@ def execute(job: dict) -> dict:
     with tempfile.TemporaryDirectory(prefix="vexil-e2e-") as tmp:
         journal, log = os.path.join(tmp, "journal.jsonl"), os.path.join(tmp, "log.jsonl")
         args = [job["tarnmodem"], "--journal", journal, "--log", log]
+        env = dict(os.environ)
+        if job["logd"]:  # where the tool's liblog writes, as a device's logd reads
+            env["VEXIL_LOGDW"] = os.path.join(tmp, "logdw")
+            args += ["--logd", env["VEXIL_LOGDW"]]
         state = os.path.join(tmp, "state.json")
         if case.state is not None or case.reload is not None:
             with open(state, "w", encoding="utf-8") as f:
@@ -103,7 +107,7 @@ def execute(job: dict) -> dict:
                     try:
                         done = subprocess.run(wrap + [job["vexilctl"]] + case.argv,
                                               stdin=subprocess.DEVNULL, capture_output=True,
-                                              timeout=job["timeout"],
+                                              timeout=job["timeout"], env=env,
                                               executable=(wrap or [job["vexilctl"]])[0])
                         out.update(stdout=done.stdout, stderr=done.stderr, exit=done.returncode)
                     except subprocess.TimeoutExpired as e:

@@ -20,7 +20,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 import sandbox
-from caseformat import Case, CaseError, c_quote, parse_file
+from caseformat import Case, CaseError, Goldens, c_quote, parse_file
 
 HERE = Path(__file__).resolve().parent
 ISOLATED = HERE.parents[1] / "scripts" / "isolated.sh"
@@ -35,7 +35,8 @@ def namespace_prefix() -> list:
 def spec_of(case: Case, args) -> dict:
     return {"case": case, "tarnmodem": os.path.abspath(args.tarnmodem),
             "vexilctl": os.path.abspath(args.vexilctl),
-            "wrap": shlex.split(args.wrap or ""), "timeout": case.timeout * args.slowdown}
+            "wrap": shlex.split(args.wrap or ""), "timeout": case.timeout * args.slowdown,
+            "logd": args.logd}
 
 
 def run_case(case: Case, args, prefix: list) -> dict:
@@ -161,7 +162,12 @@ def run(cases: list, args) -> int:
     def report(case: Case):
         start = time.monotonic()
         try:
-            problems = judge(case, run_case(case, args, prefix))
+            seen = run_case(case, args, prefix)
+            for _ in range(2):  # runs meant for one second that a slow machine spread over two
+                if not sandbox.crossed_a_second(case, seen):
+                    break
+                seen = run_case(case, args, prefix)
+            problems = judge(case, seen)
         except (RuntimeError, subprocess.TimeoutExpired, pickle.UnpicklingError, EOFError) as e:
             problems = [str(e)]
         head = f"{case.name} ({case.path}:{case.line}, {time.monotonic() - start:.2f} s)"
@@ -185,6 +191,11 @@ def parser() -> argparse.ArgumentParser:
     p.add_argument("--wrap", help="a command line that vexilctl runs under (e.g. valgrind)")
     p.add_argument("--slowdown", type=float, default=1.0,
                    help="factor for every case's time limit (for a slow --wrap)")
+    p.add_argument("--logd", action="store_true",
+                   help="vexilctl logs as a device's liblog does: tarnmodem receives logd's format "
+                        "at a socket whose path vexilctl finds in VEXIL_LOGDW")
+    p.add_argument("--formatter", choices=("glibc", "bionic"), default="glibc",
+                   help="the C library whose formatter writes the golden texts for vexilctl")
     return p
 
 
@@ -194,7 +205,8 @@ def main() -> int:
     p.add_argument("files", nargs="+")
     args = p.parse_args()
     try:
-        cases = [c for f in args.files for c in parse_file(Path(f), Path(args.golden))]
+        goldens = Goldens(Path(args.golden), args.formatter)
+        cases = [c for f in args.files for c in parse_file(Path(f), goldens)]
     except (CaseError, OSError) as e:
         print(f"run_cases: {e}", file=sys.stderr)
         return 2

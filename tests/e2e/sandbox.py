@@ -37,7 +37,7 @@ class Sandbox:
     files: Dict[str, list] = field(default_factory=dict)  # path to [content matcher, mode]
 
 
-def parse_directive(case, key: str, value: str, golden_dir, seed: str):
+def parse_directive(case, key: str, value: str, goldens, seed: str):
     """Adds one sandbox directive to the case."""
     box = case.sandbox = case.sandbox or Sandbox()
     forms = {"sandbox": r"", "tool": r"[\w.-]+ .*\S.*", "dir": r"/data/\S+( 0?[0-7]{3})?",
@@ -53,7 +53,7 @@ def parse_directive(case, key: str, value: str, golden_dir, seed: str):
     elif key in ("daemon", "repeat"):
         setattr(box, key, value if key == "daemon" else int(value))
     elif key == "file":
-        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, golden_dir, seed)
+        box.files.setdefault(first, [None, None])[0] = cf.parse_matcher(rest, goldens, seed)
     elif key == "mode":
         box.files.setdefault(first, [None, None])[1] = int(rest, 8)
 
@@ -130,6 +130,11 @@ def stand_in(runs: str, repeat: int, argv: list) -> int:
         f.write("\n".join([pidof.strip() or "0"] + [
             time.strftime("%Y%m%d-%H%M%S", time.localtime(s)) for s in seconds]))
     return status if status >= 0 else 128 - status
+
+
+def crossed_a_second(case, seen: dict) -> bool:
+    """Whether the runs of a case that repeats its command fell into more than one second."""
+    return case.sandbox is not None and case.sandbox.repeat > 1 and len(seen.get("stamps", [])) > 1
 
 
 def judge(case, seen: dict, compare_stream) -> list:

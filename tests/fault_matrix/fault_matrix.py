@@ -18,7 +18,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "e2e"))
 import run_cases  # noqa: E402
-from caseformat import parse_file  # noqa: E402
+from caseformat import Goldens, parse_file  # noqa: E402
 
 AIDL = HERE.parent.parent / "service/aidl/vendor/kest/hardware/vexil_svc/ISysLogControl.aidl"
 
@@ -175,7 +175,8 @@ def main() -> int:
     p.add_argument("--shard", default="1/1", help="K/N: every N-th case, starting at the K-th")
     args = p.parse_args()
     k, n = (int(x) for x in args.shard.split("/"))
-    cases = parse_file(Path("fault_matrix"), HERE, "\n".join(service_cases() + socket_cases()))
+    cases = parse_file(Path("fault_matrix"), Goldens(HERE, args.formatter),
+                       "\n".join(service_cases() + socket_cases()))
     return run_cases.run(cases[k - 1::n], args)
 
 

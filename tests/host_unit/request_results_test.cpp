@@ -15,6 +15,7 @@
 #include "host/emulator/EmulatorConfig.h"
 #include "host/emulator/Faults.h"
 #include "host/emulator/LogControlService.h"
+#include "requests/MipiPsRequests.h"
 #include "tests/unit/front_test_support.h"
 
 namespace tarn {
@@ -72,6 +73,16 @@ bool expect_results(int Rows::*column) {
     return as_expected;
 }
 
+// A profile type no handler builds is refused on stdout before any call.
+bool out_of_range_profile_is_refused() {
+    testing::internal::CaptureStdout();
+    const int result = SetLogPsCfg(static_cast<SetLogPsCfg::PsCfgOpertType>(2)).do_request();
+    const std::string out = testing::internal::GetCapturedStdout();
+    if (result == 0 && out == "setPsLogModuleConfig PsCfgOpertType Error\n") return true;
+    fprintf(stderr, "\nsetlogpscfg of type 2: %d, \"%s\"\n", result, out.c_str());
+    return false;
+}
+
 // Runs the first column, publishes the emulated service and runs the others.
 bool check_every_column() {
     bool as_expected = expect_results(&Rows::absent);
@@ -84,6 +95,7 @@ bool check_every_column() {
         return false;
     }
     ABinderProcess_startThreadPool();
+    as_expected = out_of_range_profile_is_refused() && as_expected;
     FaultTable failing, refused;
     for (const auto& [name, operation] : tarnmodem::service_operations()) {
         failing[name].status = FaultStatus{FaultStatus::Kind::EXCEPTION, EX_TRANSACTION_FAILED};

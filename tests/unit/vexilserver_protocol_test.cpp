@@ -44,6 +44,21 @@ void expect_replies(const std::vector<ReplyCase>& cases,
     }
 }
 
+// One write of the whole line: 0 once it went out, -1 (and no SIGPIPE) when the server hung up.
+TEST(VexilserverSendReq, WholeLineOrFailure) {
+    for (const bool server_open : {true, false}) {
+        int fds[2];
+        ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, fds), 0);
+        if (!server_open) close(fds[1]);
+        VexilserverRequest conn(fds[0]);
+        EXPECT_EQ(conn.send_req("GET_LOG_STATE\n", 14), server_open ? 0 : -1);
+        if (!server_open) continue;
+        char line[32];
+        EXPECT_EQ(read(fds[1], line, sizeof(line)), 14);
+        close(fds[1]);
+    }
+}
+
 TEST(VexilserverWaitSimpleResponse, CannedReplies) {
     const std::vector<ReplyCase> cases = {
         {"OK", 0, "set success\n", ""},

@@ -2,3 +2,12 @@
 #pragma once
 
 #include <android/binder_ibinder.h>
+
+__BEGIN_DECLS
+
+// The stability of the vendor image, or of system<->vendor (what the NDK library of a
+// @VintfStability interface built for a device gives each binder it makes).
+void AIBinder_markVendorStability(AIBinder* binder);
+void AIBinder_markVintfStability(AIBinder* binder);
+
+__END_DECLS

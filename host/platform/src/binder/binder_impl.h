@@ -3,6 +3,7 @@
 #pragma once
 
 #include <android/binder_ibinder.h>
+#include <android/binder_shell.h>
 
 #include <atomic>
 #include <memory>
@@ -16,6 +17,7 @@ struct AIBinder_Class {
     AIBinder_Class_onDestroy on_destroy = nullptr;
     AIBinder_Class_onTransact on_transact = nullptr;
     AIBinder_onDump on_dump = nullptr;
+    AIBinder_handleShellCommand on_shell_command = nullptr;
 };
 
 namespace host::binder {

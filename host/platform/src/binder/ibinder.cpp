@@ -87,6 +87,11 @@ void AIBinder_Class_setOnDump(AIBinder_Class* clazz, AIBinder_onDump onDump) {
     if (clazz != nullptr) clazz->on_dump = onDump;
 }
 
+void AIBinder_Class_setHandleShellCommand(AIBinder_Class* clazz,
+                                          AIBinder_handleShellCommand handleShellCommand) {
+    if (clazz != nullptr) clazz->on_shell_command = handleShellCommand;
+}
+
 AIBinder* AIBinder_new(const AIBinder_Class* clazz, void* args) {
     if (clazz == nullptr) return nullptr;
     void* user_data = clazz->on_create != nullptr ? clazz->on_create(args) : args;
