@@ -76,9 +76,11 @@ def run(target: str, seconds: int) -> dict:
     subprocess.run([str(binary), "-merge=1", "-close_fd_mask=3", str(merged), str(corpus),
                     str(found)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
     if any(merged.iterdir()):
-        # An input named finding-* is a fixed fault's, kept as it is whatever the merge keeps.
-        for finding in corpus.glob("finding-*"):
-            shutil.copy(finding, merged)
+        # Kept as they are whatever the merge keeps: a fixed fault's input (finding-*), and a seed
+        # written for lines whose coverage the fuzz build cannot tell apart (seed-*: a switch the
+        # compiler turns into a table lookup has no edge per case).
+        for kept in [*corpus.glob("finding-*"), *corpus.glob("seed-*")]:
+            shutil.copy(kept, merged)
         shutil.rmtree(corpus)
         shutil.copytree(merged, corpus)
     shutil.rmtree(scratch)
