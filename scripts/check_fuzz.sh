@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds the libFuzzer targets (preset "fuzz": clang-14, ASan + UBSan) and runs each from its seed
-# corpus (scripts/fuzzing/targets.sh says where each lives) for FUZZ_SECONDS seconds (default 5: a smoke run). New inputs go to a
-# scratch directory, not into the tree; a crashing input is kept under build/fuzz/findings/.
+# Builds the libFuzzer targets (preset "fuzz": clang-14, ASan + UBSan) and runs them side by side,
+# each from its seed corpus (scripts/fuzzing/targets.sh says where each lives) for FUZZ_SECONDS
+# seconds (default 5: a smoke run). New inputs go to a scratch directory, not into the tree; a
+# crashing input is kept under build/fuzz/findings/.
 #
 #   bash scripts/check_fuzz.sh                    # smoke run of every target
 #   FUZZ_SECONDS=600 bash scripts/check_fuzz.sh   # longer run, nothing kept
@@ -45,15 +46,25 @@ if [ -n "$campaign" ]; then
     exec python3 scripts/fuzzing/campaign.py "$campaign" "${targets[@]}"
 fi
 
-status=0
-for target in "${targets[@]}"; do
+# The targets run side by side, each for the given time; their outcomes are reported in order.
+run_target() {
+    local target=$1 dir dict=() rc=0
     mkdir -p "$scratch/$target"
     dir=$(fuzz_dir "$target")
-    dict=()
     [ -f "$dir/$target.dict" ] && dict=(-dict="$dir/$target.dict")
-    if build/fuzz/fuzzers/"$target" "${dict[@]}" -max_total_time="$seconds" -close_fd_mask=3 \
+    build/fuzz/fuzzers/"$target" "${dict[@]}" -max_total_time="$seconds" -close_fd_mask=3 \
         -print_final_stats=1 -artifact_prefix="$findings/$target-" \
-        "$scratch/$target" "$dir/corpus/$target" >"$scratch/$target.log" 2>&1; then
+        "$scratch/$target" "$dir/corpus/$target" >"$scratch/$target.log" 2>&1 || rc=$?
+    echo $rc >"$scratch/$target.status"
+}
+for target in "${targets[@]}"; do
+    run_target "$target" &
+done
+wait
+
+status=0
+for target in "${targets[@]}"; do
+    if [ "$(cat "$scratch/$target.status")" = 0 ]; then
         runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$scratch/$target.log")
         echo "check_fuzz: $target: ${runs:-?} runs in ${seconds} s, no finding"
     else
