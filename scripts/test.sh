@@ -4,22 +4,30 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash scripts/install_deps.sh
-
-cmake --preset default >/dev/null
-cmake --build --preset default -j"$(nproc)"
+# Each step's wall time, printed at the end.
+times=()
+step() {
+    local start=$SECONDS rc=0
+    "$@" || rc=$?
+    times+=("$(printf '%4d s  %s' $((SECONDS - start)) "$*")")
+    return $rc
+}
 
 status=0
-ctest --preset default -j"$(nproc)" || status=1
-bash scripts/check_format.sh || status=1
-bash scripts/check_blueprints.sh || status=1
-bash scripts/check_device_build.sh || status=1
-bash scripts/check_footprint.sh || status=1
-bash scripts/check_tidy.sh || status=1
-bash scripts/check_memcheck.sh || status=1
-bash scripts/check_sanitizers.sh || status=1
-bash scripts/check_fuzz.sh || status=1
+step bash scripts/install_deps.sh
+step cmake --preset default >/dev/null
+step cmake --build --preset default -j"$(nproc)"
+step ctest --preset default -j"$(nproc)" || status=1
+step bash scripts/check_format.sh || status=1
+step bash scripts/check_blueprints.sh || status=1
+step bash scripts/check_device_build.sh || status=1
+step bash scripts/check_footprint.sh || status=1
+step bash scripts/check_tidy.sh || status=1
+step bash scripts/check_memcheck.sh || status=1
+step bash scripts/check_sanitizers.sh || status=1
+step bash scripts/check_fuzz.sh || status=1
 
+printf 'test.sh: %s\n' "${times[@]}"
 if [ $status -ne 0 ]; then
     echo "test.sh: FAILED" >&2
 fi
