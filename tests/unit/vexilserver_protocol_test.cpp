@@ -1,8 +1,12 @@
 // The server socket's answers, canned over a socket pair: what a set and a state query make of
 // each reply (the decimal parser, the response splitter and the code texts are reached through
 // them). A server that closes or never answers is met end to end.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <stddef.h>
+#include <string.h>
 #include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <functional>
@@ -57,6 +61,44 @@ TEST(VexilserverSendReq, WholeLineOrFailure) {
         EXPECT_EQ(read(fds[1], line, sizeof(line)), 14);
         close(fds[1]);
     }
+}
+
+// A tool started with standard streams closed: the connection never takes descriptor 0, 1 or 2,
+// where the tool's own complaints on stderr would reach the server as request lines.
+TEST(VexilserverPrepareConn, ConnectionStaysAboveStandardStreams) {
+    const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un addr{};
+    addr.sun_family = AF_UNIX;
+    const char name[] = "vexilserver";
+    memcpy(addr.sun_path + 1, name, sizeof(name) - 1);
+    const auto len = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + sizeof(name));
+    if (bind(listener, reinterpret_cast<sockaddr*>(&addr), len) != 0 || listen(listener, 8) != 0) {
+        close(listener);
+        GTEST_SKIP() << "the vexilserver name is taken here";
+    }
+    // Which of the three are closed: bit n for descriptor n.
+    for (const unsigned closed : {1u, 4u, 5u, 7u}) {
+        int saved[3];
+        for (int fd = 0; fd < 3; ++fd) saved[fd] = fcntl(fd, F_DUPFD_CLOEXEC, 10);
+        for (int fd = 0; fd < 3; ++fd) {
+            if ((closed & (1u << fd)) != 0) close(fd);
+        }
+        unsigned taken = 0;
+        {
+            VexilserverRequest conn(-1);
+            const int rc = conn.prepare_conn();
+            for (int fd = 0; fd < 3; ++fd) {
+                if ((closed & (1u << fd)) != 0 && fcntl(fd, F_GETFD) != -1) taken |= 1u << fd;
+            }
+            for (int fd = 0; fd < 3; ++fd) {
+                dup2(saved[fd], fd);
+                close(saved[fd]);
+            }
+            EXPECT_EQ(rc, 0) << closed;
+        }
+        EXPECT_EQ(taken, 0u) << "closed " << closed;
+    }
+    close(listener);
 }
 
 TEST(VexilserverWaitSimpleResponse, CannedReplies) {
